@@ -1,0 +1,6 @@
+#include <vertra/vertra.h>
+
+namespace vertra {
+VERTRA_VEC4D(template, float)
+VERTRA_VEC4D(template, double)
+}  // namespace vertra
