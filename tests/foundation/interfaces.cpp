@@ -1,0 +1,82 @@
+#include <keel/software_buffer.h>
+#include <vertra/foundation/blowfish.h>
+#include <vertra/foundation/registry_section.h>
+#include <vertra/foundation/service.h>
+#include <vertra/foundation/tree.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+using namespace keel;
+
+template <class... Ts>
+concept Derived = ((std::has_virtual_destructor_v<Ts> && std::is_base_of_v<Base, Ts>)&&...);
+static_assert(Derived<Base, IBuffer, IService, IEncrypterDecrypter, CRegistrySection, TreeVector>);
+static_assert(std::is_base_of_v<IBuffer, ISoftwareBuffer> && std::is_destructible_v<ISoftwareBuffer>);
+struct Service : IService {};
+static_assert(std::is_default_constructible_v<Service> && !std::is_default_constructible_v<IService>);
+static_assert(std::is_destructible_v<Service> && !std::is_destructible_v<IService>);
+
+// No field but those declared, after the pointer to the virtual table.
+template <class Node, class Container = decltype(Node::children)>
+constexpr auto kFields = 2 * sizeof(void*) + sizeof(Container) + sizeof(typename Container::iterator);
+template <class... Nodes> concept AreLean = ((sizeof(Nodes) == kFields<Nodes>)&&...);
+static_assert(AreLean<TreeVector, TreeList, TreeDeque, SmartTreeVector, SmartTreeList>);
+static_assert(sizeof(SmartPtr<TreeList>) == 2 * sizeof(void*) && sizeof(SmartPtr<TreeList>::Counter) == 4);
+static_assert(sizeof(CBlowFishEncrypterDecrypter) == sizeof(void*) + 8 + 8 + 72 + 4096 + 4 + 4 /* padding */);
+
+// A pointer to a member holds the offset of a virtual operation in the table, plus 1 on some machines
+// (Itanium C++ ABI). The destructor has the first two slots.
+bool FollowTheDestructor(auto... operations) {
+    std::size_t offset = 0, slot = 2;
+    return ((std::memcpy(&offset, &operations, sizeof(offset)), offset / sizeof(void*) == slot++) && ...);
+}
+
+TEST(Interfaces, OperationsKeepTheirSlots) {
+    using E = IEncrypterDecrypter;
+    EXPECT_TRUE(FollowTheDestructor(&E::GetMinimumBlockSize, &E::SetKey, &E::SetInitialChain, &E::Encrypt,
+                                    &E::Decrypt));
+    using S = ISoftwareBuffer;
+    unsigned char* (S::*const data)() = &S::GetData;
+    unsigned char const* (S::*const constData)() const = &S::GetData;
+    EXPECT_TRUE(FollowTheDestructor(&S::GetSize, &S::Resize, &S::Read, &S::Write, data, constData,
+                                    &S::GetCapacity, &S::Reserve, &S::Append));
+}
+
+TEST(RegistrySection, KeepsWhatItWasGiven) {
+    std::string const name(100, 'n');
+    long place = 0;
+    auto section = std::make_unique<CRegistrySection>(name, reinterpret_cast<CRegistry*>(&place));
+    EXPECT_TRUE(section->entries.empty() && section->name == name);
+    EXPECT_EQ(static_cast<void*>(section->registry), &place);
+    section->entries["key"] = name;  // destruction through the base frees all, as the leak check sees
+    std::unique_ptr<Base> const base = std::move(section);
+    CRegistrySection const nameless("", nullptr);
+    EXPECT_TRUE(nameless.name.empty() && nameless.entries.empty() && nameless.registry == nullptr);
+}
+
+TEST(SoftwareBuffer, GrowsAndRefusesWhatLiesBeyondItsEnd) {
+    std::unique_ptr<ISoftwareBuffer> const buffer = std::make_unique<CSoftwareBuffer>();
+    buffer->Append("abcd", 4);
+    buffer->Write(1, "XY", 2);
+    buffer->Resize(6);
+    char out[] = "..";
+    buffer->Read(2, out, 2);
+    for (auto const size : {std::size_t(2), std::size_t(-4)}) {
+        EXPECT_THROW(buffer->Read(5, out, size), std::out_of_range) << size;
+        EXPECT_THROW(buffer->Write(7, "zz", size), std::out_of_range) << size;
+    }
+    EXPECT_TRUE(std::memcmp(buffer->GetData(), "aXYd\0\0", buffer->GetSize()) == 0 &&
+                std::string(out) == "Yd");
+    buffer->Reserve(100);
+    auto const* const data = buffer->GetData();
+    while (buffer->GetSize() < 100) buffer->Append("e", 1);
+    EXPECT_TRUE(buffer->GetData() == data && data[99] == 'e' && buffer->GetCapacity() >= 100);
+}
+
+}  // namespace

@@ -1,0 +1,165 @@
+#pragma once
+
+#include <vertra/solid/aabbox3d.h>
+
+#include <glm/glm.hpp>
+#include <glm/gtc/type_ptr.hpp>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <random>
+#include <span>
+
+/// What the tests share. Every type of the library, and of glm, is a row of scalars: it is printed, filled
+/// with random numbers and compared as one.
+namespace support {
+
+/// To read or, where the object is not const, to write.
+template <template <class> class Shape, std::floating_point T>
+std::span<T> Scalars(Shape<T> const& shape) {
+    return {const_cast<T*>(reinterpret_cast<T const*>(&shape)), sizeof(shape) / sizeof(T)};
+}
+template <class A>
+auto Scalars(A const& a) {
+    if constexpr (requires { glm::value_ptr(a); }) {
+        return std::span(glm::value_ptr(a), sizeof(a) / sizeof(*glm::value_ptr(a)));
+    } else {
+        return std::span(&a, 1);
+    }
+}
+
+}  // namespace support
+
+namespace vertra {
+
+/// Found by the test framework for its messages; all digits, so that a failure can be repeated.
+template <template <class> class Shape, std::floating_point T>
+std::ostream& operator<<(std::ostream& out, Shape<T> const& shape) {
+    out.precision(std::numeric_limits<T>::max_digits10);
+    for (T const scalar : support::Scalars(shape)) out << ' ' << scalar;
+    return out << ';';
+}
+
+}  // namespace vertra
+
+namespace support {
+
+using FloatAndDouble = testing::Types<float, double>;
+template <class T>
+inline constexpr T kNaN = std::numeric_limits<T>::quiet_NaN();
+template <class T>
+inline constexpr T kInfinity = std::numeric_limits<T>::infinity();
+/// What a few operations in T keep, and what the square root keeps in either scalar.
+template <class T>
+inline constexpr double kRounding = 256 * std::numeric_limits<T>::epsilon();
+inline constexpr double kRootRounding = kRounding<float>;
+
+/// True when every type is R; when operators Ops, as of <functional>, take an A and a B in neither order.
+template <class R, class... Ts> concept AllAre = (std::same_as<R, Ts> && ...);
+template <class A, class B, class... Ops>
+concept Refuse = (!std::invocable<Ops, A, B> && ...) && (!std::invocable<Ops, B, A> && ...);
+
+/// x, y, z for glm, and the inputs of a property for its message.
+inline constexpr auto Glm = [](auto const& v) { return glm::make_vec3(&v.x); };
+inline constexpr auto Inputs = [](auto const&... inputs) { return (testing::Message() << ... << inputs); };
+
+/// Each result and the judgement that follows it, by their scalars: within the tolerance, which is relative
+/// where the judgement is above 1, and at 0 the same bits, any NaN standing for any other. Both are of one
+/// type, unless glm judges. Its vectors of three ask for a w of 0; its matrices take columns for what we call
+/// rows, which makes the same sixteen numbers, and our a * b its b * a.
+template <class What = char const*, class A, class B, class... Rest>
+void ExpectNear(double tolerance, What const& what, A const& got, B const& judge, Rest const&... rest) {
+    static_assert(std::same_as<A, B> || requires { glm::value_ptr(judge); });
+    auto const same = [=](double s, double t) {
+        if (s == t) return tolerance > 0 || std::signbit(s) == std::signbit(t);
+        return std::abs(s - t) <= tolerance * std::max(1.0, std::abs(t)) || (std::isnan(s) && std::isnan(t));
+    };
+    auto const p = Scalars(got);
+    auto const q = Scalars(judge);
+    EXPECT_TRUE(std::equal(q.begin(), q.end(), p.begin(), same) && (p.size() == q.size() || p.back() == 0))
+        << testing::PrintToString(std::vector(p.begin(), p.end())) << " is not "
+        << testing::PrintToString(std::vector(q.begin(), q.end())) << ", " << sizeof...(rest) / 2
+        << " results from the last: " << what;
+    if constexpr (sizeof...(rest) > 0) ExpectNear(tolerance, what, rest...);
+}
+
+/// Numbers from -4 to 4 in multiples of 1 / steps, the same in every run. With a small power of two for
+/// steps, products of a few are exact and ties come up.
+template <class T>
+class Random {
+public:
+    explicit Random(int steps = 1000) : steps_(steps) {}
+    T operator()() { return T(int(engine_() % unsigned(8 * steps_ + 1)) - 4 * steps_) / T(steps_); }
+    /// Every scalar, each w included.
+    void Fill(auto&... shapes) { (std::ranges::generate(Scalars(shapes), std::ref(*this)), ...); }
+
+private:
+    int steps_;
+    std::mt19937 engine_{20240601};
+};
+
+/// A copy has every w at 0, assignment leaves each w of its target, and equality looks at every scalar,
+/// exactly, and fails on a NaN. In all shapes each fourth scalar is a w.
+template <class Shape>
+void ExpectCopyAssignmentAndEquality() {
+    Shape source, target, a, b;
+    auto const from = Scalars(source), to = Scalars(target);
+    for (std::size_t i = 0; i < from.size(); ++i) to[i] = -(from[i] = static_cast<float>(i + 1));
+    Shape const copy(source);
+    target = source;
+    target = static_cast<Shape const&>(target);
+    for (std::size_t i = 0; i < from.size(); ++i) {
+        bool const w = i % 4 == 3;
+        EXPECT_TRUE(Scalars(copy)[i] == (w ? 0 : from[i]) && to[i] == (w ? -from[i] : from[i])) << i;
+        for (auto const other : {from[i], kNaN<decltype(+from[i])>}) {
+            Scalars(a)[i] = other;
+            EXPECT_TRUE((a == b) == 0 && (a != b) == 1) << a << b;
+        }
+        Scalars(a)[i] = Scalars(b)[i];
+        EXPECT_TRUE((a == b) == 1 && (a != b) == 0) << a << b;
+    }
+}
+
+/// Image i, 0 to 23, of a vector under turns of the axes and mirrors.
+template <class T>
+vertra::Vec4D<T> Image(vertra::Vec4D<T> const& v, int i) {
+    vertra::Vec4D<T> image;
+    for (int axis = 0; axis < 3; ++axis)
+        image[(axis + i) % 3] = (i / 3 >> axis & 1) != 0 ? -v[axis] : v[axis];
+    return image;
+}
+
+/// The point of the segment from a to b nearest to p.
+inline constexpr auto Closest = [](auto const& a, auto const& b, auto const& p) {
+    return a + (b - a) * glm::clamp(glm::dot(p - a, b - a) / glm::dot(b - a, b - a), 0.0, 1.0);
+};
+
+/// Whether clipping a convex polygon by the six faces of a box (I. Sutherland and G. Hodgman, "Reentrant
+/// Polygon Clipping", 1974) says as well that they meet, or do not; with the box a little larger and smaller,
+/// where they touch either will do. Two corners make a segment.
+template <class T>
+bool AgreesWithClipping(int meets, vertra::AABBox3D<T> const& box, auto const&... corners) {
+    auto const left = [&](double margin) {
+        std::vector<glm::dvec3> polygon = {Glm(corners)...};
+        for (int side = 0; side < 6; ++side) {
+            auto const excess = [&, axis = side / 2](glm::dvec3 const& p) {
+                return (side % 2 == 0 ? double(box.min[axis]) - p[axis] : p[axis] - double(box.max[axis])) -
+                       margin;
+            };
+            std::vector<glm::dvec3> rest;
+            for (std::size_t i = 0; i < polygon.size(); ++i) {
+                glm::dvec3 const p = polygon[i], q = polygon[(i + 1) % polygon.size()];
+                if (excess(p) <= 0) rest.push_back(p);
+                if (excess(p) * excess(q) < 0)
+                    rest.push_back(glm::mix(p, q, excess(p) / (excess(p) - excess(q))));
+            }
+            polygon = rest;
+        }
+        return !polygon.empty();
+    };
+    return left(meets ? 1e-4 : -1e-4) == bool(meets);
+}
+
+}  // namespace support

@@ -1,0 +1,8 @@
+#include <vertra/foundation/encrypter_decrypter.h>
+
+namespace keel {
+
+IEncrypterDecrypter::IEncrypterDecrypter() = default;
+IEncrypterDecrypter::~IEncrypterDecrypter() = default;
+
+}  // namespace keel
