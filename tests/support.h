@@ -46,6 +46,7 @@ std::ostream& operator<<(std::ostream& out, Shape<T> const& shape) {
 
 namespace support {
 
+using namespace vertra;
 using FloatAndDouble = testing::Types<float, double>;
 template <class T>
 inline constexpr T kNaN = std::numeric_limits<T>::quiet_NaN();
@@ -88,16 +89,12 @@ void ExpectNear(double tolerance, What const& what, A const& got, B const& judge
 /// Numbers from -4 to 4 in multiples of 1 / steps, the same in every run. With a small power of two for
 /// steps, products of a few are exact and ties come up.
 template <class T>
-class Random {
-public:
-    explicit Random(int steps = 1000) : steps_(steps) {}
-    T operator()() { return T(int(engine_() % unsigned(8 * steps_ + 1)) - 4 * steps_) / T(steps_); }
+struct Random {
+    int steps = 1000;
+    std::mt19937 engine{20240601};
+    T operator()() { return T(int(engine() % unsigned(8 * steps + 1)) - 4 * steps) / T(steps); }
     /// Every scalar, each w included.
     void Fill(auto&... shapes) { (std::ranges::generate(Scalars(shapes), std::ref(*this)), ...); }
-
-private:
-    int steps_;
-    std::mt19937 engine_{20240601};
 };
 
 /// A copy has every w at 0, assignment leaves each w of its target, and equality looks at every scalar,
@@ -111,21 +108,20 @@ void ExpectCopyAssignmentAndEquality() {
     target = source;
     target = static_cast<Shape const&>(target);
     for (std::size_t i = 0; i < from.size(); ++i) {
-        bool const w = i % 4 == 3;
-        EXPECT_TRUE(Scalars(copy)[i] == (w ? 0 : from[i]) && to[i] == (w ? -from[i] : from[i])) << i;
-        for (auto const other : {from[i], kNaN<decltype(+from[i])>}) {
+        auto const same = Scalars(b)[i];
+        EXPECT_TRUE(i % 4 == 3 ? Scalars(copy)[i] == 0 && to[i] == -from[i]
+                               : Scalars(copy)[i] == to[i] && to[i] == from[i]);
+        for (auto const other : {from[i] + 64, kNaN<decltype(+same)>, same}) {
             Scalars(a)[i] = other;
-            EXPECT_TRUE((a == b) == 0 && (a != b) == 1) << a << b;
+            EXPECT_TRUE((a == b) == (other == same) && (a != b) == (other != same)) << a << b;
         }
-        Scalars(a)[i] = Scalars(b)[i];
-        EXPECT_TRUE((a == b) == 1 && (a != b) == 0) << a << b;
     }
 }
 
 /// Image i, 0 to 23, of a vector under turns of the axes and mirrors.
 template <class T>
-vertra::Vec4D<T> Image(vertra::Vec4D<T> const& v, int i) {
-    vertra::Vec4D<T> image;
+Vec4D<T> Image(Vec4D<T> const& v, int i) {
+    Vec4D<T> image;
     for (int axis = 0; axis < 3; ++axis)
         image[(axis + i) % 3] = (i / 3 >> axis & 1) != 0 ? -v[axis] : v[axis];
     return image;
@@ -137,29 +133,22 @@ inline constexpr auto Closest = [](auto const& a, auto const& b, auto const& p) 
 };
 
 /// Whether clipping a convex polygon by the six faces of a box (I. Sutherland and G. Hodgman, "Reentrant
-/// Polygon Clipping", 1974) says as well that they meet, or do not; with the box a little larger and smaller,
-/// where they touch either will do. Two corners make a segment.
+/// Polygon Clipping", 1974) says as well that they meet, or do not: with the box a little larger in the one
+/// case, smaller in the other, so that a touch may be either. Two corners make a segment.
 template <class T>
-bool AgreesWithClipping(int meets, vertra::AABBox3D<T> const& box, auto const&... corners) {
-    auto const left = [&](double margin) {
-        std::vector<glm::dvec3> polygon = {Glm(corners)...};
-        for (int side = 0; side < 6; ++side) {
-            auto const excess = [&, axis = side / 2](glm::dvec3 const& p) {
-                return (side % 2 == 0 ? double(box.min[axis]) - p[axis] : p[axis] - double(box.max[axis])) -
-                       margin;
-            };
-            std::vector<glm::dvec3> rest;
-            for (std::size_t i = 0; i < polygon.size(); ++i) {
-                glm::dvec3 const p = polygon[i], q = polygon[(i + 1) % polygon.size()];
-                if (excess(p) <= 0) rest.push_back(p);
-                if (excess(p) * excess(q) < 0)
-                    rest.push_back(glm::mix(p, q, excess(p) / (excess(p) - excess(q))));
-            }
-            polygon = rest;
+bool AgreesWithClipping(int meets, AABBox3D<T> const& box, auto const&... corners) {
+    std::vector<glm::dvec3> polygon = {Glm(corners)...}, rest;
+    for (int side = 0; side < 6; ++side, std::swap(polygon, rest), rest.clear()) {
+        int const axis = side / 2, sign = side % 2 == 0 ? -1 : 1;
+        double const bound = sign * double((sign < 0 ? box.min : box.max)[axis]) + (meets ? 1e-4 : -1e-4);
+        for (std::size_t i = 0; i < polygon.size(); ++i) {
+            glm::dvec3 const p = polygon[i], q = polygon[(i + 1) % polygon.size()];
+            double const atP = sign * p[axis] - bound, atQ = sign * q[axis] - bound;
+            if (atP <= 0) rest.push_back(p);
+            if (atP * atQ < 0) rest.push_back(glm::mix(p, q, atP / (atP - atQ)));
         }
-        return !polygon.empty();
-    };
-    return left(meets ? 1e-4 : -1e-4) == bool(meets);
+    }
+    return polygon.empty() != bool(meets);
 }
 
 }  // namespace support

@@ -76,17 +76,17 @@ TEST(BlowFish, ChainOutlivesModesAndKeysAndShortBlocks) {
         cipher.Encrypt(bytes.data(), bytes.data(), size);
         return bytes;
     };
-    Bytes const keys = {1, 2};
-    cipher.SetKey(&keys[0], 1);
+    unsigned char const one = 1, two = 2;
+    cipher.SetKey(&one, 1);
     Bytes const first = encrypted(2, 7);
     encrypted(2, 8);
     Bytes const second = encrypted(2, 7);
     EXPECT_NE(first, second);
     encrypted(0, 16);
     for (int const mode : {-1, 3, 0, 1}) encrypted(mode, 0);
-    cipher.SetKey(&keys[1], 1);
+    cipher.SetKey(&two, 1);
     EXPECT_NE(encrypted(2, 7), second);
-    cipher.SetKey(&keys[0], 1);
+    cipher.SetKey(&one, 1);
     EXPECT_EQ(encrypted(2, 7), second);
     cipher.ResetChain();
     EXPECT_EQ(encrypted(2, 7), first);
@@ -128,19 +128,16 @@ TEST(BlowFish, AgreesWithOpenSslHoweverAMessageIsSplit) {
     auto* const legacy = OSSL_PROVIDER_load(nullptr, "legacy");
     if (legacy == nullptr) GTEST_SKIP() << "OpenSSL is here without its legacy ciphers";
     auto* const judge = EVP_CIPHER_CTX_new();
+    EVP_CIPHER const* const kinds[] = {EVP_bf_ecb(), EVP_bf_cbc(), EVP_bf_cfb64()};
     std::mt19937 random(20240601);
     Bytes bytes(64 + 200), expected(200), secret(200), plain(200);
     for (int i = 0; i < 2000; ++i) {
         std::ranges::generate(bytes, [&] { return static_cast<unsigned char>(random() & 0xFF); });
-        unsigned char const *const key = &bytes[0], *const chain = &bytes[56], *const text = &bytes[64];
+        unsigned char const *const key = bytes.data(), *const chain = &bytes[56], *const text = &bytes[64];
         int const mode = i % 3, keySize = 1 + i % 56;
         std::size_t const size = random() % 25 * 8 + (mode == Cipher::BLOWFISH_CFB ? random() % 8 : 0);
         int judged = 0;
-        EVP_EncryptInit_ex(judge,
-                           mode == 0   ? EVP_bf_ecb()
-                           : mode == 1 ? EVP_bf_cbc()
-                                       : EVP_bf_cfb64(),
-                           nullptr, nullptr, nullptr);
+        EVP_EncryptInit_ex(judge, kinds[mode], nullptr, nullptr, nullptr);
         EVP_CIPHER_CTX_set_key_length(judge, keySize);
         EVP_EncryptInit_ex(judge, nullptr, nullptr, key, chain);
         EVP_EncryptUpdate(judge, expected.data(), &judged, text, int(size));
@@ -152,13 +149,13 @@ TEST(BlowFish, AgreesWithOpenSslHoweverAMessageIsSplit) {
         for (bool const decrypt : {false, true}) {
             for (std::size_t at = 0, part = 0; at < size; at += part) {
                 part = std::min<std::size_t>(size - at, random() % 6 * 8);
-                Crypt(cipher, decrypt, (decrypt ? &secret[0] : text) + at, &(decrypt ? plain : secret)[at],
+                Crypt(cipher, decrypt, (decrypt ? secret.data() : text) + at, &(decrypt ? plain : secret)[at],
                       part);
             }
             cipher.ResetChain();
         }
         EXPECT_TRUE(std::size_t(judged) == size && std::equal(text, text + size, plain.begin()) &&
-                    std::equal(&secret[0], &secret[size], expected.begin()))
+                    std::equal(expected.begin(), expected.begin() + judged, secret.begin()))
             << "mode " << mode << ", " << size << " bytes, key of " << keySize;
     }
     EVP_CIPHER_CTX_free(judge);

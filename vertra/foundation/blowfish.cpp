@@ -19,6 +19,7 @@ unsigned int CBlowFishEncrypterDecrypter::F(unsigned int x) {
            sboxes[3][x & 0xFF];
 }
 
+// NOLINTBEGIN(readability-convert-member-functions-to-static): members, as the engine has them
 void CBlowFishEncrypterDecrypter::BytesToBlock(unsigned char const* bytes, _SBlock& block) const {
     for (std::uint32_t* half : {&block.left, &block.right}) {
         *half = 0;
@@ -30,5 +31,6 @@ void CBlowFishEncrypterDecrypter::BlockToBytes(_SBlock const& block, unsigned ch
     for (std::uint32_t half : {block.right, block.left})
         for (int i = 0; i < 4; ++i, half >>= 8) *--end = static_cast<unsigned char>(half & 0xFF);
 }
+// NOLINTEND(readability-convert-member-functions-to-static)
 
 }  // namespace keel

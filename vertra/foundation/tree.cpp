@@ -2,7 +2,13 @@
 
 namespace keel {
 
-VERTRA_TREE(template)
+template class SmartPtr<SmartTreeVector>;
+template class SmartPtr<SmartTreeList>;
+template class Tree<std::vector<TreeVector*>>;
+template class Tree<std::list<TreeList*>>;
+template class Tree<std::deque<TreeDeque*>>;
+template class Tree<std::vector<SmartPtr<SmartTreeVector>>>;
+template class Tree<std::list<SmartPtr<SmartTreeList>>>;
 
 TreeVector::TreeVector(TreeVector* parent_) : Tree(parent_) {}
 TreeVector::~TreeVector() = default;

@@ -125,15 +125,12 @@ Tree<Container>::~Tree() {
         while (!empty()) children.pop_back();
 }
 
-#define VERTRA_TREE(INSTANTIATE)                                    \
-    INSTANTIATE class SmartPtr<SmartTreeVector>;                    \
-    INSTANTIATE class SmartPtr<SmartTreeList>;                      \
-    INSTANTIATE class Tree<std::vector<TreeVector*>>;               \
-    INSTANTIATE class Tree<std::list<TreeList*>>;                   \
-    INSTANTIATE class Tree<std::deque<TreeDeque*>>;                 \
-    INSTANTIATE class Tree<std::vector<SmartPtr<SmartTreeVector>>>; \
-    INSTANTIATE class Tree<std::list<SmartPtr<SmartTreeList>>>;
-
-VERTRA_TREE(extern template)
+extern template class SmartPtr<SmartTreeVector>;
+extern template class SmartPtr<SmartTreeList>;
+extern template class Tree<std::vector<TreeVector*>>;
+extern template class Tree<std::list<TreeList*>>;
+extern template class Tree<std::deque<TreeDeque*>>;
+extern template class Tree<std::vector<SmartPtr<SmartTreeVector>>>;
+extern template class Tree<std::list<SmartPtr<SmartTreeList>>>;
 
 }  // namespace keel
