@@ -1,0 +1,20 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <stdexcept>
+
+namespace example {
+
+/// What the user must mend, in one line that names the file or the option.
+class Error : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Parses the options, then does the program's work. Returns the exit status: 2 with a line on stderr for
+/// whatever was thrown, so a program that prints only when nothing can go wrong any more leaves stdout empty.
+int Run(CLI::App& app, int argc, char** argv, std::function<void()> const& work);
+
+}  // namespace example
