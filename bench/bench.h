@@ -26,7 +26,7 @@ inline constexpr int kInputs = 256;
 
 /// Hides from the compiler what becomes of a value: it has to be in memory by now.
 template <class Value>
-void Consume(Value const& value) {
+BENCHMARK_ALWAYS_INLINE inline void Consume(Value const& value) {
     Value const* const address = &value;
     benchmark::DoNotOptimize(address);
 }
@@ -81,7 +81,7 @@ public:
     /// body(i) makes call i, which does the work on `elements` elements, and returns the result. A library
     /// may join in several forms, told apart by further words: the table shows its fastest.
     template <class Body>
-    Operation& Add(std::string const& library, Body body, int elements = 1) {
+    void Add(std::string const& library, Body body, int elements = 1) {
         Check(library, body);
         auto const run = [body, calls = calls_, elements](benchmark::State& state) {
             for (auto _ : state) {
@@ -93,7 +93,6 @@ public:
             state.SetItemsProcessed(state.iterations() * calls * elements);
         };
         benchmark::RegisterBenchmark((name_ + '/' + library).c_str(), run);
-        return *this;
     }
 
 private:

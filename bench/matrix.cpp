@@ -34,45 +34,45 @@ template <class T>
 void Register() {
     auto const* const m = RandomMatrices<T>(kInputs + 1);
     auto const* const p = RandomPoints<T>(kInputs);
-    IF_GLM(auto const* const gm = (As<glm::mat<4, 4, T, glm::packed_highp>>(m, kInputs + 1));
-           auto const* const gp = (As<glm::vec<4, T, glm::packed_highp>>(p, kInputs));
-           auto const* const am = (As<glm::mat<4, 4, T, glm::aligned_highp>>(m, kInputs + 1));
-           auto const* const ap = (As<glm::vec<4, T, glm::aligned_highp>>(p, kInputs));)
+    IF_GLM(auto const* const gm = As<glm::mat<4, 4, T, glm::packed_highp>>(m, kInputs + 1);
+           auto const* const gp = As<glm::vec<4, T, glm::packed_highp>>(p, kInputs);
+           auto const* const am = As<glm::mat<4, 4, T, glm::aligned_highp>>(m, kInputs + 1);
+           auto const* const ap = As<glm::vec<4, T, glm::aligned_highp>>(p, kInputs);)
     IF_EIGEN(using EigenMatrix = Eigen::Matrix<T, 4, 4>; using EigenVector = Eigen::Matrix<T, 4, 1>;
              auto const* const em = As<EigenMatrix>(m, kInputs + 1);
              auto const* const ep = As<EigenVector>(p, kInputs);)
     IF_IMATH(auto const* const im = As<Imath::Matrix44<T>>(m, kInputs + 1);
              auto const* const ip = As<Imath::Vec4<T>>(p, kInputs);)
 
-    Operation<T>("matrix product", kInputs, 16, 1e-6)
-        .Add("vertra", [=](int i) { return m[i] * m[i + 1]; })
-            IF_GLM(.Add("glm packed", [=](int i) { return gm[i + 1] * gm[i]; }))
-                IF_GLM(.Add("glm aligned", [=](int i) { return am[i + 1] * am[i]; }))
-                    IF_EIGEN(.Add("Eigen", [=](int i) -> EigenMatrix { return em[i + 1] * em[i]; }))
-                        IF_IMATH(.Add("Imath", [=](int i) { return im[i] * im[i + 1]; }));
+    Operation<T> product("matrix product", kInputs, 16, 1e-6);
+    product.Add("vertra", [=](int i) { return m[i] * m[i + 1]; });
+    IF_GLM(product.Add("glm packed", [=](int i) { return gm[i + 1] * gm[i]; });)
+    IF_GLM(product.Add("glm aligned", [=](int i) { return am[i + 1] * am[i]; });)
+    IF_EIGEN(product.Add("Eigen", [=](int i) -> EigenMatrix { return em[i + 1] * em[i]; });)
+    IF_IMATH(product.Add("Imath", [=](int i) { return im[i] * im[i + 1]; });)
 
     // The peers compute the fourth component as well, which with us is 0.
-    Operation<T>("point by matrix", kInputs, 3, 1e-6)
-        .Add("vertra", [=](int i) { return p[i] * m[i]; })
-            IF_GLM(.Add("glm packed", [=](int i) { return gm[i] * gp[i]; }))
-                IF_GLM(.Add("glm aligned", [=](int i) { return am[i] * ap[i]; }))
-                    IF_EIGEN(.Add("Eigen", [=](int i) -> EigenVector { return em[i] * ep[i]; }))
-                        IF_IMATH(.Add("Imath", [=](int i) { return ip[i] * im[i]; }));
+    Operation<T> point("point by matrix", kInputs, 3, 1e-6);
+    point.Add("vertra", [=](int i) { return p[i] * m[i]; });
+    IF_GLM(point.Add("glm packed", [=](int i) { return gm[i] * gp[i]; });)
+    IF_GLM(point.Add("glm aligned", [=](int i) { return am[i] * ap[i]; });)
+    IF_EIGEN(point.Add("Eigen", [=](int i) -> EigenVector { return em[i] * ep[i]; });)
+    IF_IMATH(point.Add("Imath", [=](int i) { return ip[i] * im[i]; });)
 
     // Imath eliminates with pivots, as we do; glm and Eigen take cofactors.
-    Operation<T>("inverse", kInputs, 16, 1e-4)
-        .Add("vertra", [=](int i) { return Invert(m[i]); })
-            IF_GLM(.Add("glm packed", [=](int i) { return glm::inverse(gm[i]); }))
-                IF_GLM(.Add("glm aligned", [=](int i) { return glm::inverse(am[i]); }))
-                    IF_EIGEN(.Add("Eigen", [=](int i) -> EigenMatrix { return em[i].inverse(); }))
-                        IF_IMATH(.Add("Imath", [=](int i) { return im[i].inverse(); }));
+    Operation<T> inverse("inverse", kInputs, 16, 1e-4);
+    inverse.Add("vertra", [=](int i) { return Invert(m[i]); });
+    IF_GLM(inverse.Add("glm packed", [=](int i) { return glm::inverse(gm[i]); });)
+    IF_GLM(inverse.Add("glm aligned", [=](int i) { return glm::inverse(am[i]); });)
+    IF_EIGEN(inverse.Add("Eigen", [=](int i) -> EigenMatrix { return em[i].inverse(); });)
+    IF_IMATH(inverse.Add("Imath", [=](int i) { return im[i].inverse(); });)
 
-    Operation<T>("determinant", kInputs, 1, 1e-4)
-        .Add("vertra", [=](int i) { return Det(m[i]); })
-            IF_GLM(.Add("glm packed", [=](int i) { return glm::determinant(gm[i]); }))
-                IF_GLM(.Add("glm aligned", [=](int i) { return glm::determinant(am[i]); }))
-                    IF_EIGEN(.Add("Eigen", [=](int i) { return em[i].determinant(); }))
-                        IF_IMATH(.Add("Imath", [=](int i) { return im[i].determinant(); }));
+    Operation<T> determinant("determinant", kInputs, 1, 1e-4);
+    determinant.Add("vertra", [=](int i) { return Det(m[i]); });
+    IF_GLM(determinant.Add("glm packed", [=](int i) { return glm::determinant(gm[i]); });)
+    IF_GLM(determinant.Add("glm aligned", [=](int i) { return glm::determinant(am[i]); });)
+    IF_EIGEN(determinant.Add("Eigen", [=](int i) { return em[i].determinant(); });)
+    IF_IMATH(determinant.Add("Imath", [=](int i) { return im[i].determinant(); });)
 }
 
 }  // namespace

@@ -60,19 +60,18 @@ void RegisterSegment() {
     auto const* const il = Keep(std::move(imathLines));
 #endif
 
-    Operation<T>("ready segment against box", kInputs, 1, 0).Add("vertra", [=](int i) {
-        return b[i].Intersects(r[i].middle, r[i].direction, r[i].halfLength);
-    }) IF_IMATH(.Add("Imath", [=](int i) { return Imath::intersects(ib[i], il[i]); }));
+    Operation<T> ready("ready segment against box", kInputs, 1, 0);
+    ready.Add("vertra", [=](int i) { return b[i].Intersects(r[i].middle, r[i].direction, r[i].halfLength); });
+    IF_IMATH(ready.Add("Imath", [=](int i) { return Imath::intersects(ib[i], il[i]); });)
 
     // Both sides normalise the direction first.
-    Operation<T>("segment by its ends against box", kInputs, 1, 0).Add("vertra", [=](int i) {
-        return b[i].Intersects(l[i]);
-    }) IF_IMATH(.Add("Imath", [=](int i) {
-                    return Imath::intersects(ib[i], Imath::Line3<T>(ie[i][0], ie[i][1]));
-                }));
+    Operation<T> segment("segment by its ends against box", kInputs, 1, 0);
+    segment.Add("vertra", [=](int i) { return b[i].Intersects(l[i]); });
+    IF_IMATH(segment.Add(
+        "Imath", [=](int i) { return Imath::intersects(ib[i], Imath::Line3<T>(ie[i][0], ie[i][1])); });)
 }
 
-/// The six bounds that a box of Box has grown to.
+/// The six bounds of a box.
 template <class T, class Low, class High>
 std::array<T, 6> Bounds(Low const& low, High const& high) {
     return {low[0], low[1], low[2], high[0], high[1], high[2]};
@@ -84,34 +83,40 @@ void RegisterGrowth() {
     std::vector<Vec4D<T>> points(kMany);
     for (auto& point : points) point = random.Point();
     auto const* const p = Keep(std::move(points));
-    IF_EIGEN(auto const* const e3 = (As<Eigen::Matrix<T, 3, 1>>(p, kMany));
-             auto const* const e4 = (As<Eigen::Matrix<T, 4, 1>>(p, kMany));)
+    IF_EIGEN(auto const* const e3 = As<Eigen::Matrix<T, 3, 1>>(p, kMany);
+             auto const* const e4 = As<Eigen::Matrix<T, 4, 1>>(p, kMany);)
     IF_IMATH(auto const* const ip = As<Imath::Vec3<T>>(p, kMany);)
 
-    auto const vertra = [=](int) {
+    Operation<T> growth("box growth", 1, 6, 0);
+    auto const ours = [=](int) {
         AABBox3D<T> box;
         for (int i = 0; i < kMany; ++i) box.Add(p[i]);
         return Bounds<T>(box.min, box.max);
     };
-    IF_EIGEN(auto const eigen3 = [=](int) {
+    growth.Add("vertra", ours, kMany);
+#ifdef VERTRA_BENCH_EIGEN3
+    auto const eigen3 = [=](int) {
         Eigen::AlignedBox<T, 3> box;
         for (int i = 0; i < kMany; ++i) box.extend(e3[i]);
         return Bounds<T>(box.min(), box.max());
-    };)
-    // Of four dimensions: more work than ours, but all of it in vector registers.
-    IF_EIGEN(auto const eigen4 = [=](int) {
+    };
+    growth.Add("Eigen three", eigen3, kMany);
+    // Four dimensions: more work than ours, but all of it side by side.
+    auto const eigen4 = [=](int) {
         Eigen::AlignedBox<T, 4> box;
         for (int i = 0; i < kMany; ++i) box.extend(e4[i]);
         return Bounds<T>(box.min(), box.max());
-    };)
-    IF_IMATH(auto const imath = [=](int) {
+    };
+    growth.Add("Eigen four", eigen4, kMany);
+#endif
+#ifdef VERTRA_BENCH_IMATH
+    auto const imath = [=](int) {
         Imath::Box<Imath::Vec3<T>> box;
         for (int i = 0; i < kMany; ++i) box.extendBy(ip[i]);
         return Bounds<T>(box.min, box.max);
-    };)
-    Operation<T>("box growth", 1, 6, 1e-12)
-        .Add("vertra", vertra, kMany) IF_EIGEN(.Add("Eigen three", eigen3, kMany))
-            IF_EIGEN(.Add("Eigen four", eigen4, kMany)) IF_IMATH(.Add("Imath", imath, kMany));
+    };
+    growth.Add("Imath", imath, kMany);
+#endif
 }
 
 /// Small triangles about the origin, of which the ray hits one in a hundred. We and Imath tell the point of a
@@ -131,26 +136,28 @@ void RegisterTriangle() {
     Vec4D<T> const from(T(-2), T(-2.1), T(-1.9));
     Vec4D<T> const along(T(1), T(1.1), T(0.9));
 
-    auto const vertra = [=](int i) {
+    Operation<T> ray("ray against triangle", kMany, 1, 0);
+    ray.Add("vertra", [=](int i) {
         Vec4D<T> hit;
         int const result = t[i].Intersects(from, along, hit);
         Consume(hit);
         return result;
-    };
+    });
 #ifdef VERTRA_BENCH_GLM
     using Vec3 = glm::vec<3, T>;
     auto const vec3 = [](Vec4D<T> const& v) { return Vec3(v.x, v.y, v.z); };
     std::vector<std::array<Vec3, 3>> glmTriangles;
     for (int i = 0; i < kMany; ++i) glmTriangles.push_back({vec3(t[i][0]), vec3(t[i][1]), vec3(t[i][2])});
-    auto const glm = [gt = Keep(std::move(glmTriangles)), from = vec3(from), along = vec3(along)](int i) {
+    auto const* const g = Keep(std::move(glmTriangles));
+    ray.Add("glm", [=, from = vec3(from), along = vec3(along)](int i) {
         glm::vec<2, T> barycentric;
         T distance = 0;
         bool const result =
-            glm::intersectRayTriangle(from, along, gt[i][0], gt[i][1], gt[i][2], barycentric, distance);
+            glm::intersectRayTriangle(from, along, g[i][0], g[i][1], g[i][2], barycentric, distance);
         Consume(barycentric);
         Consume(distance);
         return result;
-    };
+    });
 #endif
 #ifdef VERTRA_BENCH_IMATH
     using Point = Imath::Vec3<T>;
@@ -159,18 +166,17 @@ void RegisterTriangle() {
     for (int i = 0; i < kMany; ++i) {
         imathTriangles.push_back({point(t[i][0]), point(t[i][1]), point(t[i][2])});
     }
-    Imath::Line3<T> const line(point(from), point(from + along));
-    auto const imath = [it = Keep(std::move(imathTriangles)), line](int i) {
-        Point hit, barycentric;
+    auto const* const m = Keep(std::move(imathTriangles));
+    ray.Add("Imath", [=, line = Imath::Line3<T>(point(from), point(from + along))](int i) {
+        Point hit;
+        Point barycentric;
         bool front = false;
-        bool const result = Imath::intersect(line, it[i][0], it[i][1], it[i][2], hit, barycentric, front);
+        bool const result = Imath::intersect(line, m[i][0], m[i][1], m[i][2], hit, barycentric, front);
         Consume(hit);
         Consume(barycentric);
         return result;
-    };
+    });
 #endif
-    Operation<T>("ray against triangle", kMany, 1, 0)
-        .Add("vertra", vertra) IF_GLM(.Add("glm", glm)) IF_IMATH(.Add("Imath", imath));
 }
 
 }  // namespace

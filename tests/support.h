@@ -122,8 +122,7 @@ void ExpectCopyAssignmentAndEquality() {
 template <class T>
 Vec4D<T> Image(Vec4D<T> const& v, int i) {
     Vec4D<T> image;
-    for (int axis = 0; axis < 3; ++axis)
-        image[(axis + i) % 3] = (i / 3 >> axis & 1) != 0 ? -v[axis] : v[axis];
+    for (int k = 0; k < 3; ++k) image[(k + i) % 3] = (i / 3 >> k & 1) != 0 ? -v[k] : v[k];
     return image;
 }
 

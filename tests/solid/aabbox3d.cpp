@@ -19,10 +19,7 @@ TYPED_TEST(AABBox3DTest, EdgesAndProperties) {
     V corners[8], p, out[] = {V(-1, 0, 0), V(0, 0, -1), V(0, -1, 0), V(1, 0, 0), V(0, 0, 1), V(0, 1, 0)};
     Plane3D<T> plane, planes[6];
     Line3D<T> line;
-    static_assert(sizeof(B) == 8 * sizeof(T) && [] {
-        B fit;
-        return fit.Add(1, 5, 3), fit.Add(V(4, 0, 3)), fit == B(1, 0, 3, 4, 5, 3);
-    }());
+    static_assert(sizeof(B) == 8 * sizeof(T) && B().Add(1, 5, 3) == B(1, 5, 3, 1, 5, 3));
     static_assert(AllAre<B const&, decltype(box = big), decltype(box.Reset()), decltype(box.Reset(1, 2, 3)),
                          decltype(box.Add(1, 2, 3)), decltype(box.Add(p)), decltype(box.Add(big)),
                          decltype(box.Repair())>);
@@ -83,9 +80,7 @@ TYPED_TEST(AABBox3DTest, EdgesAndProperties) {
                    box.IsTotallyInside(other.min) & box.IsTotallyInside(other.max), box.Intersects(other),
                    int(other.max >= box.min) & int(box.max >= other.min), box.Center(), (low + high) / T(2),
                    box.GetExtent(), high - low, int(box.ClassifyPlane(plane)),
-                   positive == 8   ? 0
-                   : positive == 0 ? 1
-                                   : 4);
+                   positive == 8 ? 0 : (positive == 0 ? 1 : 4));
     }
 }
 

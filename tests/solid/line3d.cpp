@@ -13,8 +13,8 @@ TYPED_TEST(Line3DTest, CarriesWAndAgreesWithGlm) {
     using V = Vec4D<T>;
     using L = Line3D<T>;
     Random<T> random;
-    L line, a, b, set;
     V p;
+    L line, a, b, set;
     V const c(1, 2, 3, 4), d(10, 20, 30, 40);
     static_assert(sizeof(L) == 8 * sizeof(T) && offsetof(L, end) == sizeof(V) && Len2(L()) == 3 &&
                   V(L()) == V(1, 1, 1) && Len(L(0, 0, 1, 0, 4, 1)) == 4);

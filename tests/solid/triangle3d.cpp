@@ -15,44 +15,38 @@ TYPED_TEST(Triangle3DTest, EdgesAndProperties) {
     using V = Vec4D<T>;
     using A = Triangle3D<T>;
     V const o, x(1, 0, 0, 9), y(0, 1, 0, 9), above(0.25, 0.25, 5, 9);
-    A const unit(o, x, y), flat(0, 0, 0, 1, 1, 1, 2, 2, 2),
+    A const u(o, x, y), flat(0, 0, 0, 1, 1, 1, 2, 2, 2),
         minus(0, 0, 0, -1, T(-0.0), T(-0.0), T(-0.0), 1, T(-0.0));
     A t, triangles[6];
     V out(0, 0, 0, 7), corners[8], d, p;
-    static_assert(sizeof(A) == 12 * sizeof(T) && [] {
-        V hit(0, 0, 0, 7);
-        return A(0, 0, 0, 4, 0, 0, 0, 4, 0).Intersects(Line3D<T>(1, 1, 1, 1, 1, -1), hit) &&
-               hit == V(1, 1, 0, 7);
-    }());
-    static_assert(AllAre<A const&, decltype(t = unit), decltype(t.Set(o, x, y))> &&
+    auto const pierce = [](A const& a, V hit) {
+        return a.Intersects(V(1, 1, 1), V(0, 0, 1), hit) && hit == V(1, 1, 0);
+    };
+    static_assert(sizeof(A) == 12 * sizeof(T) && pierce(A(0, 0, 0, 4, 0, 0, 0, 4, 0), V()) && A()[2U].z == 1);
+    static_assert(AllAre<A const&, decltype(t = u), decltype(t.Set(o, x, y))> &&
                   AllAre<V&, decltype(t[0]), decltype(t[0U])> &&
-                  AllAre<V const&, decltype(unit[0]), decltype(unit[0U])>);
+                  AllAre<V const&, decltype(u[0]), decltype(u[0U])>);
     ExpectCopyAssignmentAndEquality<A>();
     ExpectNear(0, "default, no area", Normal(t), V(1, 1, 1), t[0], V(1, 0, 0), t[1U], V(0, 1, 0),
                Normal(flat), V(), IsInsideTriangle(flat, V(1, 1, 1)), 0, IsFrontFacing(flat, x), 1);
     ExpectNear(kRootRounding, "plane", Plane3D<T>(A(x * 4, y * 4, V(0, 0, 4))),
                Plane3D<T>(V(T(0.57735027)), T(-2.3094011)));
-    EXPECT_TRUE(!unit.Intersects(above, x, out) && !unit.Intersects(Line3D<T>(above, above + x), out) &&
-                out == V(0, 0, 0, 7))
-        << "parallel";
-    EXPECT_TRUE(TrianglePlaneIntersectsWithLine(unit, V(0, 0, 1), V(1, 0, -1e-30F), out) &&
-                out == V(1 / T(1e-30F), 0, 0, 7))
-        << "hardly";
-    EXPECT_TRUE(!unit.Intersects(V(3, 3, 1), V(0, 0, 1), out) && out == V(3, 3, 0, 7)) << "outside";
-    EXPECT_TRUE(!unit.Intersects(Line3D<T>(0.25, 0.25, 1, 0.25, 0.25, 0), out) && out == V(0.25, 0.25, 0, 7))
-        << "at the end";
-    for (int i = 0; i < 3; ++i) {
-        V const side = (unit[i] + unit[(i + 1) % 3]) / 2;
-        ExpectNear(0, i, IsInsideTriangle(unit, unit[i]), 0, IsInsideTriangle(unit, side), 0,
-                   IsInsideTriangleFast(unit, unit[i]), int(i == 0), IsInsideTriangleFast(unit, side),
-                   int(i != 1));
-    }
+    ExpectNear(0, "parallel", u.Intersects(above, x, out), 0, u.Intersects(Line3D<T>(above, above + x), out),
+               0);
+    EXPECT_TRUE(out == V(0, 0, 0, 7) &&
+                TrianglePlaneIntersectsWithLine(u, V(0, 0, 1), V(1, 0, -1e-30F), out));
+    EXPECT_TRUE(out == V(1 / T(1e-30F), 0, 0, 7) && !u.Intersects(V(3, 3, 1), V(0, 0, 1), out));
+    EXPECT_TRUE(out == V(3, 3, 0, 7) && !u.Intersects(Line3D<T>(0.25, 0.25, 1, 0.25, 0.25, 0), out));
+    EXPECT_TRUE(out == V(0.25, 0.25, 0, 7)) << "a hit on the end is written";
+    auto const in = [&](V const& q) { return 2 * IsInsideTriangle(u, q) + IsInsideTriangleFast(u, q); };
+    for (int i = 0; i < 3; ++i)
+        ExpectNear(0, i, in(u[i]), int(i == 0), in((u[i] + u[(i + 1) % 3]) / 2), int(i != 1));
     ExpectNear(0, "-0 is negative, on the line is neither side", IsInsideTriangleFast(minus, y / 2), 0,
                IsInsideTriangleFast(A(o, -x, y), y / 2), 1, IsOnTheSameSide(x, y, o, x * 2), 0);
-    ExpectNear(0, "facing", IsFrontFacing(unit, V(1, 1, 0, 9)), 1, IsFrontFacing(unit, V(0, 0, 1, -9)), 0,
-               IsFrontFacing(unit, V(kNaN<T>)), 0);
-    ExpectNear(0, "as far from two sides", GetClosestPoint(unit, above), y / 4,
-               GetClosestPoint(A(y, o, x), above), x / 4, GetClosestPoint(A(x, y, o), above), x / 4);
+    ExpectNear(0, "facing", IsFrontFacing(u, V(1, 1, 0, 9)), 1, IsFrontFacing(u, V(0, 0, 1, -9)), 0,
+               IsFrontFacing(u, V(kNaN<T>)), 0);
+    ExpectNear(0, "a tie", GetClosestPoint(u, above), y / 4, GetClosestPoint(A(y, o, x), above), x / 4,
+               GetClosestPoint(A(x, y, o), above), x / 4);
     int const faces[] = {0, 2, 1, 0, 1, 4, 0, 4, 2, 6, 4, 7, 6, 7, 2, 7, 5, 3};
     for (A& triangle : triangles) triangle[0].w = triangle[1].w = triangle[2].w = 7;
     AABBox3D<T>(2, 4, 8, 10, 16, 20).GetEdges(corners).GetFacePlanes(triangles);
