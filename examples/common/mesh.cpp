@@ -117,6 +117,7 @@ Mesh LoadMesh(std::string const& path) {
         for (Vec4D<double> const& vertex : triangle.vertex) mesh.box.Add(vertex);
     }
     if (!(Len(mesh.box.GetExtent()) > 1 / kFarthest)) throw Error(path + ": is too small, or a single point");
+    mesh.sphere.FitAround(mesh.box);
     return mesh;
 }
 

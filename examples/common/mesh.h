@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vertra/solid/aabbox3d.h>
+#include <vertra/solid/bsphere3d.h>
 #include <vertra/solid/triangle3d.h>
 
 #include <cstddef>
@@ -17,6 +18,7 @@ struct Mesh {
     std::size_t vertices = 0;                           ///< how many the file holds, used or not
     std::vector<vertra::Triangle3D<double>> triangles;  ///< at least one
     vertra::AABBox3D<double> box;                       ///< around the triangles
+    vertra::BSphere3D<double> sphere;                   ///< around the box
 };
 
 /// The polygons of a Wavefront OBJ file as triangles, in the order of the file. Throws an Error that names

@@ -3,12 +3,16 @@
 #include "common/mesh.h"
 #include "common/run.h"
 
+#include <vertra/transform/quat3d.h>
+
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace example {
 namespace {
 
+using vertra::Quat3D;
 using vertra::Vec4D;
 
 Vec4D<double> Point(std::string const& option, std::array<double, 3> const& p) {
@@ -16,6 +20,14 @@ Vec4D<double> Point(std::string const& option, std::array<double, 3> const& p) {
         throw Error(option + ": needs numbers between -1e9 and 1e9");
     }
     return Vec4D<double>(p.data());
+}
+
+/// The offset turned about x by the pitch, then about y by the yaw. A quaternion turns a vector by minus its
+/// angle, so that its conjugate turns it by the angle itself.
+Vec4D<double> Orbited(Vec4D<double> const& offset, std::array<double, 2> const& degrees) {
+    auto const [yaw, pitch] = degrees;
+    constexpr double kRadians = std::numbers::pi / 180;
+    return Conj(Quat3D<double>(-pitch * kRadians, yaw * kRadians, 0)) * offset;
 }
 
 }  // namespace
@@ -28,6 +40,11 @@ void Options::AddTo(CLI::App& app) {
         ->capture_default_str();
     app.add_option("--eye", eye, "Where the eye is; by default it frames the mesh");
     app.add_option("--target", target, "What it looks at; by default the middle of the mesh");
+    app.add_option(
+           "--orbit", orbit,
+           "Yaw and pitch in degrees, by which the eye is turned about the target: counter-clockwise seen "
+           "from above, and up for an eye on the z axis")
+        ->check(CLI::Range(-360.0, 360.0));
 }
 
 Camera Options::MakeCamera(vertra::AABBox3D<double> const& box, double aspect) const {
@@ -36,7 +53,7 @@ Camera Options::MakeCamera(vertra::AABBox3D<double> const& box, double aspect) c
     if (!(GetDistanceBetween(from, to) > 1 / kFarthest)) {
         throw Error(std::string(eye ? "--eye" : "--target") + ": eye and target are the same point");
     }
-    return Camera(from, to, aspect, box);
+    return Camera(to + Orbited(from - to, orbit), to, aspect, box);
 }
 
 }  // namespace example

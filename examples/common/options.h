@@ -16,6 +16,7 @@ struct Options {
     std::array<int, 2> size = {800, 600};
     std::optional<std::array<double, 3>> eye;     ///< by default one that frames the mesh
     std::optional<std::array<double, 3>> target;  ///< by default the middle of the mesh
+    std::array<double, 2> orbit = {0, 0};         ///< yaw and pitch in degrees, by which the eye is turned
 
     void AddTo(CLI::App& app);
     /// Throws an Error for an eye and a target that do not make a view. aspect is width over height.

@@ -27,10 +27,14 @@ struct Pick {
     std::size_t tests = 0;                ///< of triangles
 };
 
-/// The triangle nearest to the start of the segment. None is tried where the box is missed.
+/// The triangle nearest to the start of the segment. None is tried where the sphere or the box around them is
+/// missed.
 Pick PickTriangle(Mesh const& mesh, Line3D<double> sight) {
     Pick pick;
-    if (!mesh.box.Intersects(sight)) return pick;
+    Vec4D<double> entry;
+    if (!mesh.sphere.Intersects(sight.start, Normalize(sight.end - sight.start), entry) ||
+        !mesh.box.Intersects(sight))
+        return pick;
     for (auto const& triangle : mesh.triangles) {
         Vec4D<double> point;
         if (triangle.Intersects(sight, point)) {

@@ -14,7 +14,7 @@ TYPED_TEST(AABBox3DTest, EdgesAndProperties) {
     using B = AABBox3D<T>;
     T const m = std::numeric_limits<float>::max(), contact = T(0.0001), more = 1 + std::ldexp(T(1), -20);
     B const reset, big(V(2, 4, 8, 9), V(10, 16, 20, 9)), small(3, 5, 9, 9, 15, 19), cube(-1, -1, -1, 1, 1, 1);
-    B const powers(-1, -2, -4, 1, 2, 4);  // the normals of its faces are exact
+    B const twos(-1, -2, -4, 1, 2, 4);  // the normals of its faces are exact
     B box, other;
     V corners[8], p, out[] = {V(-1, 0, 0), V(0, 0, -1), V(0, -1, 0), V(1, 0, 0), V(0, 0, 1), V(0, 1, 0)};
     Plane3D<T> plane, planes[6];
@@ -28,7 +28,7 @@ TYPED_TEST(AABBox3DTest, EdgesAndProperties) {
                B(big).Add(reset), B(-m, -m, -m, m, m, m), B(small).Add(big), big,
                B(big).Add(kNaN<T>, 0, kNaN<T>), B(2, 0, 8, 10, 16, 20), B(3, 0, 5, 1, 2, 4).Repair(),
                B(1, 0, 4, 3, 2, 5));
-    ExpectNear(0, "the first weighs t", GetInterpolatedBoundingBox(big, small, 0.25),
+    ExpectNear(0, "weights", GetInterpolatedBoundingBox(big, small, 0.25),
                B(2.75, 4.75, 8.75, 9.25, 15.25, 19.25), GetInterpolatedBoundingBox(big, small, 2),
                B(1, 3, 7, 11, 17, 21));
     ExpectNear(0, "no extent", B().Add(1, 2, 3).IsEmpty(), 1, reset.IsEmpty(), 0,
@@ -37,8 +37,7 @@ TYPED_TEST(AABBox3DTest, EdgesAndProperties) {
     for (auto& face : planes) face.normal.w = 7;
     box.min.w = box.max.w = 7;
     box.Reset(1, 2, 3);
-    EXPECT_TRUE(box.min == V(1, 2, 3, 7) && box.max == box.min && box.Reset().min == V(m, m, m, 7) &&
-                box.max.w == 7);
+    EXPECT_TRUE(box.min == V(1, 2, 3, 7) && box.max == box.min && box.Reset().min == V(m, m, m, 7));
     big.GetEdges(corners).GetFacePlanes(planes);
     for (int i = 0; i < 8; ++i)
         EXPECT_EQ(corners[i], V(i & 4 ? 10 : 2, i & 1 ? 16 : 4, i & 2 ? 20 : 8, 7)) << i;
@@ -46,9 +45,7 @@ TYPED_TEST(AABBox3DTest, EdgesAndProperties) {
         ExpectNear(kRootRounding, i, planes[i].normal, V(out[i], 7), planes[i].distance,
                    -(out[i] * (i < 3 ? big.min : big.max)));
     for (int i = 0; i < 24; ++i) {
-        auto const hit = [&](V const& middle, V const& d, T half) {
-            return cube.Intersects(Image(middle, i), Image(d, i), half);
-        };
+        auto const hit = [&](V c, V d, T h) { return cube.Intersects(Image(c, i), Image(d, i), h); };
         ExpectNear(0, i, hit(V(1 + more, 1, 0.5), V(1, 0, 0), more), 1,
                    hit(V(1 + more, 1, 0.5), V(1, 0, 0), 1), 0, hit(V(1, 1, 0.5), V(1, -1, 0), 9), 1,
                    hit(V(1, more, 0.5), V(1, -1, 0), 9), 0, B(Image(V(contact, 0, 0), i), V()).IsEmpty(),
@@ -65,8 +62,7 @@ TYPED_TEST(AABBox3DTest, EdgesAndProperties) {
 
         halves.Fill(box, other, plane, p);
         V const d = Image(V{std::exp2(steps()), std::exp2(steps()), std::exp2(steps())}, i % 24);
-        EXPECT_TRUE(AgreesWithClipping(powers.Intersects(d, p), powers, p - d * 1000, p + d * 1000))
-            << d << p;
+        EXPECT_TRUE(AgreesWithClipping(twos.Intersects(d, p), twos, p - d * 1000, p + d * 1000)) << d << p;
         auto const low = Glm(box.Repair().min), high = Glm(box.max), at = Glm(p),
                    closest = glm::clamp(at, low, high);
         int positive = 0;

@@ -17,22 +17,19 @@ TYPED_TEST(Plane3DTest, EdgesAndProperties) {
     P const up(V(0, 1, 0), 0), right(V(1, 0, 0), 0), y6(V(0, 2, 0), -6), y3(V(0, 1, 0), -3), far(V(1e25F), 4);
     P skew(V(2, 4, 8), 16), unit(V(3, 0, 0), 10), a, b, c;
     T const in = T(0.0001), above = std::nextafter(in, T(1)), x = std::nextafter(1e-8F, 0.0F), nan = kNaN<T>;
-    static_assert(sizeof(P) == 5 * sizeof(T) && P(V(), V(1, 0, 0), V(0, 1, 0)).Distance(V(0, 0, 3)) == 3 &&
-                  EIR_BEHIND == 0 && EIR_IN_FRONT == 1 && EIR_ON_PLANE == 2 && EIR_STRADDLING == 3 &&
-                  EIR_CUT == 4);
+    static_assert(sizeof(P) == 5 * sizeof(T) && P().Distance(V(0, 5, 0)) == 5 && EIR_BEHIND == 0 &&
+                  EIR_IN_FRONT == 1 && EIR_ON_PLANE == 2 && EIR_STRADDLING == 3 && EIR_CUT == 4);
     static_assert(
-        AllAre<P const&, decltype(a = up), decltype(a.SetPlane(y, y, y)), decltype(a.SetPlane(y, y)),
-               decltype(a.SetPlane(y, 0)), decltype(a.NormalizePlane()), decltype(a *= Matrix3D<T>())> &&
+        AllAre<P const&, decltype(a = up), decltype(a.SetPlane(y, y, y)), decltype(a.SetPlane(y, 0)),
+               decltype(a.NormalizePlane()), decltype(a *= Matrix3D<T>())> &&
         AllAre<T const&, decltype(a.RecalculateDistance(y))>);
     ExpectCopyAssignmentAndEquality<P>();
     unit.normal.w = 4, skew.normal.w = 2;
     unit.NormalizePlane();
-    ExpectNear(0, "normals as they are", P(), up, P(y, at), y6, P(0, 2, 0, 1, 3, 1), y6, P().SetPlane(y, -6),
-               y6);
-    ExpectNear(0, "unit normals", P(V(0, 3, 0), V(0, 3, 1), V(1, 3, 0)), y3, P(one, one, one),
-               P(V(), T(-0.0)), P().SetPlane(V(y), at), y3, P(y, -6).NormalizePlane(), y3,
-               P(V(), 2).NormalizePlane(), P(V(), 2 * (1 / T(2.24262704e-20F))), P(far).NormalizePlane(),
-               far);
+    ExpectNear(0, "as they are", P(), up, P(y, at), y6, P(0, 2, 0, 1, 3, 1), y6, P().SetPlane(y, -6), y6);
+    ExpectNear(0, "unit", P(V(0, 3, 0), V(0, 3, 1), V(1, 3, 0)), y3, P(one, one, one), P(V(), T(-0.0)),
+               P().SetPlane(V(y), at), y3, P(y, -6).NormalizePlane(), y3, P(V(), 2).NormalizePlane(),
+               P(V(), 2 * (1 / T(2.24262704e-20F))), P(far).NormalizePlane(), far);
     ExpectNear(kRootRounding, "w counts", unit.normal, V(T(0.6), 0, 0, 4), unit.distance, T(2),
                skew.Distance(one), T(32), skew.GetMemberPoint(), V(-32, -64, -128));
     ExpectNear(0, "one coordinate of three", skew.SolveForX(1, 2), T(-18), skew.SolveForY(1, 2), T(-8.5),
@@ -49,8 +46,7 @@ TYPED_TEST(Plane3DTest, EdgesAndProperties) {
                P(V(x, 0, 0), 1).Intersects(up, along, out), 0);
     EXPECT_TRUE(out == V(0, 0, 0, 7) && along == out && P(V(1e-8F, 0, 0), 1).Intersects(up, along, out) &&
                 P(V(2, 0, 0), 1).Intersects(right, along, out));
-    EXPECT_TRUE(!up.Intersects(Line3D<T>(1, 1, 0, 1, 0, 0), out) && out == V(1, 0, 0, 7))
-        << "a hit on the end";
+    EXPECT_TRUE(!up.Intersects(Line3D<T>(1, 1, 0, 1, 0, 0), out) && out == V(1, 0, 0, 7)) << "at the end";
     EXPECT_TRUE(skew.Intersects(V(1, 0, 0, 1), V(0, 0, 0, 2), out) && out == V(-5, 0, 0, 7) &&
                 skew.RecalculateDistance(one) == -16);
 
