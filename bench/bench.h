@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
 #include <deque>
 #include <iostream>
 #include <random>
@@ -39,11 +38,13 @@ Value const* Keep(std::vector<Value> values) {
 }
 
 /// The scalars of our values in a peer's type, as many as both hold.
-template <class Peer, class Ours>
-Peer const* As(Ours const* ours, int count) {
+template <class Peer, template <class> class Ours, class T>
+Peer const* As(Ours<T> const* ours, int count) {
     std::vector<Peer> peers(static_cast<std::size_t>(count));
     for (Peer& peer : peers) {
-        std::memcpy(static_cast<void*>(&peer), ours++, std::min(sizeof(Peer), sizeof(Ours)));
+        T const* const scalars = *ours++;
+        std::copy_n(scalars, std::min(sizeof(Peer), sizeof(Ours<T>)) / sizeof(T),
+                    reinterpret_cast<T*>(&peer));
     }
     return Keep(std::move(peers));
 }

@@ -147,6 +147,7 @@ void RegisterTriangle() {
     using Vec3 = glm::vec<3, T>;
     auto const vec3 = [](Vec4D<T> const& v) { return Vec3(v.x, v.y, v.z); };
     std::vector<std::array<Vec3, 3>> glmTriangles;
+    glmTriangles.reserve(kMany);
     for (int i = 0; i < kMany; ++i) glmTriangles.push_back({vec3(t[i][0]), vec3(t[i][1]), vec3(t[i][2])});
     auto const* const g = Keep(std::move(glmTriangles));
     ray.Add("glm", [=, from = vec3(from), along = vec3(along)](int i) {
@@ -163,6 +164,7 @@ void RegisterTriangle() {
     using Point = Imath::Vec3<T>;
     auto const point = [](Vec4D<T> const& v) { return Point(v.x, v.y, v.z); };
     std::vector<std::array<Point, 3>> imathTriangles;
+    imathTriangles.reserve(kMany);
     for (int i = 0; i < kMany; ++i) {
         imathTriangles.push_back({point(t[i][0]), point(t[i][1]), point(t[i][2])});
     }
