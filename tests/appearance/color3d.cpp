@@ -43,7 +43,7 @@ TYPED_TEST(Color3DTest, StoresAsItIsPacksIntoBytesAndSaturates) {
                          decltype(v -= set), decltype(v *= set), decltype(v *= 2), decltype(v /= 2)>);
 
     auto const held = [](T x) { return std::clamp(x, T(0), T(1)); };
-    Random<T> random(4);
+    Random<T> random{4};
     C a, b, c;
     for (int i = 0; i < 4000; ++i) {
         random.Fill(a, b, c);

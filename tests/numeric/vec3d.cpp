@@ -43,8 +43,9 @@ TYPED_TEST(Vec3DTest, ComputesAndComparesThreeComponentsAndDropsEveryW) {
         T const t = next();
         auto const check = [&](auto... is) {
             (ExpectNear(0, Inputs(typeid(is).name(), c, d, t), is(c, d),
-                        is(c.x, d.x) & is(c.y, d.y) & is(c.z, d.z), is(c, t),
-                        is(c.x, t) & is(c.y, t) & is(c.z, t), is(t, c), is(t, c.x) & is(t, c.y) & is(t, c.z)),
+                        int(is(c.x, d.x) && is(c.y, d.y) && is(c.z, d.z)), is(c, t),
+                        int(is(c.x, t) && is(c.y, t) && is(c.z, t)), is(t, c),
+                        int(is(t, c.x) && is(t, c.y) && is(t, c.z))),
              ...);
         };
         check(std::equal_to<>(), std::less<>(), std::less_equal<>(), std::greater<>(),

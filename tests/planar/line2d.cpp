@@ -39,7 +39,7 @@ TYPED_TEST(Line2DTest, KeepsItsNormalAndCrossesAsWholeNumbersSay) {
     static_assert(offsetof(L, end) == 2 * sizeof(T) && offsetof(L, normalValid) == 6 * sizeof(T) &&
                   AllAre<L&, decltype(line = line)> && AllAre<V const&, decltype(line.Normal())>);
 
-    Random<T> random(1);
+    Random<T> random{1};
     auto const cross = [](V const& u, V const& v) { return int(u.x * v.y - u.y * v.x); };
     for (int i = 0; i < 20000; ++i) {
         random.Fill(p, q, r, s);

@@ -47,7 +47,7 @@ TYPED_TEST(Rect2DTest, MovesGrowsClipsAndCompares) {
         AllAre<R const&, decltype(s = r), decltype(s += p), decltype(s.Repair()), decltype(s.Clip(r)),
                decltype(s |= r), decltype(s.Move(p)), decltype(s.Inflate(1, 2))>);
 
-    Random<T> random(1);
+    Random<T> random{1};
     auto [a, b, at] = std::tuple<R, R, P>();
     for (int i = 0; i < 5000; ++i) {
         random.Fill(a, b, at);

@@ -13,7 +13,7 @@ TYPED_TEST(AABBox3DTest, EdgesAndProperties) {
     using V = Vec4D<T>;
     using B = AABBox3D<T>;
     T const m = std::numeric_limits<float>::max(), contact = T(0.0001), more = 1 + std::ldexp(T(1), -20);
-    B const reset, big(V(2, 4, 8, 9), V(10, 16, 20, 9)), small(3, 5, 9, 9, 15, 19), cube(-1, -1, -1, 1, 1, 1);
+    B const empty, big(V(2, 4, 8, 9), V(10, 16, 20, 9)), small(3, 5, 9, 9, 15, 19), cube(-1, -1, -1, 1, 1, 1);
     B const twos(-1, -2, -4, 1, 2, 4);  // the normals of its faces are exact
     B box, other;
     V corners[8], p, out[] = {V(-1, 0, 0), V(0, 0, -1), V(0, -1, 0), V(1, 0, 0), V(0, 0, 1), V(0, 1, 0)};
@@ -24,20 +24,21 @@ TYPED_TEST(AABBox3DTest, EdgesAndProperties) {
                          decltype(box.Add(1, 2, 3)), decltype(box.Add(p)), decltype(box.Add(big)),
                          decltype(box.Repair())>);
     ExpectCopyAssignmentAndEquality<B>();
-    ExpectNear(0, "fits", reset, B(m, m, m, -m, -m, -m), B().Add(1, 2, 3), B(1, 2, 3, 1, 2, 3),
-               B(big).Add(reset), B(-m, -m, -m, m, m, m), B(small).Add(big), big,
+    ExpectNear(0, "fits", empty, B(m, m, m, -m, -m, -m), B().Add(1, 2, 3), B(1, 2, 3, 1, 2, 3),
+               B(big).Add(empty), B(-m, -m, -m, m, m, m), B(small).Add(big), big,
                B(big).Add(kNaN<T>, 0, kNaN<T>), B(2, 0, 8, 10, 16, 20), B(3, 0, 5, 1, 2, 4).Repair(),
                B(1, 0, 4, 3, 2, 5));
     ExpectNear(0, "weights", GetInterpolatedBoundingBox(big, small, 0.25),
                B(2.75, 4.75, 8.75, 9.25, 15.25, 19.25), GetInterpolatedBoundingBox(big, small, 2),
                B(1, 3, 7, 11, 17, 21));
-    ExpectNear(0, "no extent", B().Add(1, 2, 3).IsEmpty(), 1, reset.IsEmpty(), 0,
+    ExpectNear(0, "no extent", B().Add(1, 2, 3).IsEmpty(), 1, empty.IsEmpty(), 0,
                big.Intersects(V(), V(5, 5, 9)), 0, big.Intersects(V(10, 16, 20), V(), 1), 1);
     for (V& corner : corners) corner.w = 7;
     for (auto& face : planes) face.normal.w = 7;
-    box.min.w = box.max.w = 7;
+    box.min.w = 8, box.max.w = 7;
     box.Reset(1, 2, 3);
-    EXPECT_TRUE(box.min == V(1, 2, 3, 7) && box.max == box.min && box.Reset().min == V(m, m, m, 7));
+    EXPECT_TRUE(box.Repair().min == V(1, 2, 3, 8) && box.max == V(1, 2, 3, 7) &&
+                box.Reset().min == V(m, m, m, 8));
     big.GetEdges(corners).GetFacePlanes(planes);
     for (int i = 0; i < 8; ++i)
         EXPECT_EQ(corners[i], V(i & 4 ? 10 : 2, i & 1 ? 16 : 4, i & 2 ? 20 : 8, 7)) << i;
@@ -75,8 +76,8 @@ TYPED_TEST(AABBox3DTest, EdgesAndProperties) {
                    box.IsTotallyInside(other),
                    box.IsTotallyInside(other.min) & box.IsTotallyInside(other.max), box.Intersects(other),
                    int(other.max >= box.min) & int(box.max >= other.min), box.Center(), (low + high) / T(2),
-                   box.GetExtent(), high - low, int(box.ClassifyPlane(plane)),
-                   positive == 8 ? 0 : (positive == 0 ? 1 : 4));
+                   box.GetExtent(), high - low, B(box).Add(p), B(Lo(box.min, p), Hi(box.max, p)),
+                   int(box.ClassifyPlane(plane)), positive == 8 ? 0 : (positive == 0 ? 1 : 4));
     }
 }
 

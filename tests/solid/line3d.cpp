@@ -24,12 +24,12 @@ TYPED_TEST(Line3DTest, CarriesWAndAgreesWithGlm) {
     ExpectCopyAssignmentAndEquality<L>();
     a = L(c, d);
     a.start.w = b.end.w = set.end.w = 5;
-    b.SetPoints(1, 2, 3, 4, 5, 6), set.SetPoints(d, c);
-    ExpectNear(0, {}, L(c, d), L(1, 2, 3, 10, 20, 30), a + b, L(2, 4, 6, 14, 25, 36), a - b,
-               L(0, 0, 0, 6, 15, 24), set.start, V(d), set.end, V(c, 5), V(std::as_const(a)), V(9, 18, 27),
+    b.SetPoints(7, 2, 5, 4, 5, 6), set.SetPoints(d, c);
+    ExpectNear(0, {}, L(c, d), L(1, 2, 3, 10, 20, 30), a + b, L(8, 4, 8, 14, 25, 36), a - b,
+               L(-6, 0, -2, 6, 15, 24), set.start, V(d), set.end, V(c, 5), V(std::as_const(a)), V(9, 18, 27),
                std::as_const(a).Midpoint(), V(5.5, 11, 16.5));
     a += b, set -= b;
-    ExpectNear(0, {}, a.start, V(2, 4, 6, 5), a.end, V(14, 25, 36, 5), set.start, V(9, 18, 27), set.end,
+    ExpectNear(0, {}, a.start, V(8, 4, 8, 5), a.end, V(14, 25, 36, 5), set.start, V(3, 18, 25), set.end,
                V(-3, -3, -3));
 
     L const two(0, 0, 0, 2, 0, 0), point(c, c);
@@ -38,7 +38,7 @@ TYPED_TEST(Line3DTest, CarriesWAndAgreesWithGlm) {
                IsPointBetweenStartAndEnd(V(), two), 0, IsPointBetweenStartAndEnd(V(2, 0, 0), two), 0,
                IsPointBetweenStartAndEnd(c, point), 0);
     ExpectNear(0, "a detour, below 0, in float", IsPointInsideLine(V(1, 0, 0, 9), two, tiny), 1,
-               IsPointInsideLine(V(4, 0, 0), two, 4), 0,
+               IsPointInsideLine(V(4, 0, 0), two, 4), 0, IsPointInsideLine(V(4, 0, 0), two, 5), 1,
                IsPointInsideLine(V(7, 0, 0), L(0, 0, 0, 8, 0, 0), tiny), 0,
                IsPointInsideLine(V(tiny, 0, 0), L(V(), V()), 2 * tiny), 0);
     ExpectNear(0, "a tangent, a point, NaN", IsIntersectingWithSphere(two, V(0, 4, 0, 9), 4, nan), 1,

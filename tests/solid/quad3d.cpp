@@ -56,7 +56,7 @@ TYPED_TEST(Quad3DTest, IsTwoTrianglesSplitJoinedAndHit) {
     static_assert(sizeof(Q) == 16 * sizeof(T) && Q().IsCoPlanar() == 1 &&
                   AllAre<Q&, decltype(std::declval<Q&>() = with)>);
 
-    Random<T> random(1);
+    Random<T> random{1};
     auto [o, u, v] = std::tuple<V, V, V>();
     for (int i = 0; i < 10000; ++i) {
         random.Fill(o, u, v);

@@ -42,7 +42,7 @@ TYPED_TEST(Sphere3DTest, ContactIsStrictAndGrowthKeepsTheCenter) {
                   AllAre<S const&, decltype(a = a)> &&
                   AllAre<B const&, decltype(kept = kept), decltype(kept.Add(o)), decltype(kept.Reset())>);
 
-    Random<T> random(2), fine;
+    Random<T> random{2}, fine;
     for (int i = 0; i < 5000; ++i) {
         random.Fill(a, b, box, plane, p);
         box.Repair(), kept.center.w = 7;
@@ -65,7 +65,7 @@ TYPED_TEST(Sphere3DTest, ContactIsStrictAndGrowthKeepsTheCenter) {
         fine.Fill(a, b, o, n, velocity);
         V const unit(Normalize(V(n)), 9);
         // How far along n a point is that distance from another for the first time; NaN where it never is.
-        auto const first = [&](V const& way, double distance) {
+        auto const first = [&, n = n](V const& way, double distance) {
             glm::dvec3 const d = Glm(way), u = glm::normalize(glm::dvec3(Glm(n))), off = glm::cross(d, u);
             return T(glm::dot(d, u) - std::sqrt(distance * distance - glm::dot(off, off)));
         };

@@ -18,6 +18,7 @@ TYPED_TEST(Triangle3DTest, EdgesAndProperties) {
     A const u(o, x, y), flat(0, 0, 0, 1, 1, 1, 2, 2, 2),
         minus(0, 0, 0, -1, T(-0.0), T(-0.0), T(-0.0), 1, T(-0.0));
     A t, triangles[6];
+
     V out(0, 0, 0, 7), corners[8], d, p;
     auto const pierce = [](A const& a, V h) { return a.Intersects(V(1), V(0, 0, 1), h) && h == V(1, 1, 0); };
     static_assert(sizeof(A) == 12 * sizeof(T) && pierce(A(0, 0, 0, 4, 0, 0, 0, 4, 0), V()) && A()[2U].z == 1);
@@ -40,7 +41,8 @@ TYPED_TEST(Triangle3DTest, EdgesAndProperties) {
         ExpectNear(0, i, in(u[i]), int(i == 0), in((u[i] + u[(i + 1) % 3]) / 2), int(i != 1));
     ExpectNear(0, "-0 is negative, on the line is neither side", IsInsideTriangleFast(minus, y / 2), 0,
                IsInsideTriangleFast(A(o, -x, y), y / 2), 1, IsOnTheSameSide(x, y, o, x * 2), 0);
-    ExpectNear(0, "facing", IsFrontFacing(u, V(1, 1, 0, 9)), 1, IsFrontFacing(u, V(0, 0, 1, -9)), 0,
+    ExpectNear(0, "facing", IsFrontFacing(A(o, x * 1e-9F, y * 1e-9F), V(0, 0, std::numeric_limits<T>::min())),
+               0, IsFrontFacing(u, V(1, 1, 0, 9)), 1, IsFrontFacing(u, V(0, 0, 1, -9)), 0,
                IsFrontFacing(u, V(kNaN<T>)), 0);
     ExpectNear(0, "a tie", GetClosestPoint(u, above), y / 4, GetClosestPoint(A(y, o, x), above), x / 4,
                GetClosestPoint(A(x, y, o), above), x / 4);

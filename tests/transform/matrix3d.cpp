@@ -65,13 +65,11 @@ TYPED_TEST(Matrix3DTest, ArithmeticAndBuildersAgreeWithGlm) {
     Random<T> random;
     M a, m;
     V v, w, up;
-
     T const quarter = T(1.5707963267948966);
     glm::vec<3, T> const x(1, 0, 0), y(0, 1, 0), z(0, 0, 1);
     for (int i = 0; i < 1000; ++i) {
         random.Fill(a, m, v, w, up);
-        T const l = v.x, r = l + 2, b = v.y, t = b + 3, n = v.z + 5, f = n + 7, angle = v.w, c = w.x,
-                s = w.y + T(4.5);
+        T const l = v.x, r = l + 2, b = v.y, t = b + 3, n = v.z + 5, f = n + 7, turn = v.w, s = w.y + 5;
         V const angles = v * T(0.37);
         auto const gv = Glm(v), gw = Glm(w);
         G const ga = glm::make_mat4(a.m), g = glm::make_mat4(m.m);
@@ -92,14 +90,14 @@ TYPED_TEST(Matrix3DTest, ArithmeticAndBuildersAgreeWithGlm) {
                    g * glm::ortho(l, r, b, t, n, f), M(m).Frustum(l, r, b, t, n, f),
                    g * glm::frustum(l, r, b, t, n, f), M(m).PerspectiveFOV(1, 3, n, f),
                    g * glm::perspective(T(1), T(3), n, f), M(m).Left(), glm::scale(g, {1, 1, -1}),
-                   M(m).XRot(angle), glm::rotate(g, angle, x), M(m).YRot(angle), glm::rotate(g, angle, y),
-                   M(m).ZRot(angle), glm::rotate(g, angle, z), M(m).Rot(w, angle), glm::rotate(g, angle, gw),
-                   M(m).Rot(w * 1000, angle), glm::rotate(g, angle, gw), M(m).Rot(v),
-                   glm::rotate(glm::rotate(glm::rotate(g, l, x), b, y), v.z, z), M(m).Rot({2, 0, 0, 9}, c, s),
-                   M(m).XRot(c, s), M(m).Rot({0, 1, 0, 9}, c, s), M(m).YRot(c, s),
-                   M(m).Rot({0, 0, 3, 9}, c, s), M(m).ZRot(c, s), M(m).Trans(v), glm::translate(g, gv),
-                   M(m).Scale(v), glm::scale(g, gv), M(m).Scale(l), glm::scale(g, {l, l, l}),
-                   M(m).Look(v, w, up), glm::lookAt(gv, gw, Glm(up)) * g);
+                   M(m).XRot(turn), glm::rotate(g, turn, x), M(m).YRot(turn), glm::rotate(g, turn, y),
+                   M(m).ZRot(turn), glm::rotate(g, turn, z), M(m).Rot(w, turn), glm::rotate(g, turn, gw),
+                   M(m).Rot(w * 1000, turn), glm::rotate(g, turn, gw), M(m).Rot(v),
+                   glm::rotate(glm::rotate(glm::rotate(g, l, x), b, y), v.z, z),
+                   M(m).Rot({2, 0, 0, 9}, w.x, s), M(m).XRot(w.x, s), M(m).Rot({0, 1, 0, 9}, w.x, s),
+                   M(m).YRot(w.x, s), M(m).Rot({0, 0, 3, 9}, w.x, s), M(m).ZRot(w.x, s), M(m).Trans(v),
+                   glm::translate(g, gv), M(m).Scale(v), glm::scale(g, gv), M(m).Scale(l),
+                   glm::scale(g, {l, l, l}), M(m).Look(v, w, up), glm::lookAt(gv, gw, Glm(up)) * g);
         ExpectNear(64 * kRounding<T>, angles, M().Rot(angles).GetRotation(), angles,
                    M().Rot(V(l, quarter, angles.z - l)).GetRotation(), V(0, quarter, angles.z),
                    M().Rot(V(l, -quarter, angles.z + l)).GetRotation(), V(0, -quarter, angles.z));

@@ -80,11 +80,11 @@ public:
     /// positive side.
     constexpr EINTERSECTION_RELATION ClassifyPlane(Plane3D<T> const& plane) const;
     /// Writes x, y, z of the eight corners, rebuilt from center and half extent.
-    constexpr AABBox3D const& GetEdges(Vec4D<T>* const corners) const;
+    constexpr AABBox3D const& GetEdges(Vec4D<T>* corners) const;
     /// Writes the six face planes, without their normal.w. A face of no area gets a zero normal.
-    constexpr AABBox3D const& GetFacePlanes(Plane3D<T>* const planes) const;
+    constexpr AABBox3D const& GetFacePlanes(Plane3D<T>* planes) const;
     /// Writes x, y, z of six triangles, each half of a face.
-    constexpr AABBox3D const& GetFacePlanes(Triangle3D<T>* const triangles) const;  // defined with Triangle3D
+    constexpr AABBox3D const& GetFacePlanes(Triangle3D<T>* triangles) const;  // defined with Triangle3D
 
     /// 1 when the boxes overlap or touch. The w of the corners takes part like a fourth axis.
     constexpr int Intersects(AABBox3D const& other) const;

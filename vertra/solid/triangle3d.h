@@ -7,6 +7,7 @@
 #include <vertra/solid/plane3d.h>
 
 #include <cstddef>
+#include <initializer_list>
 
 namespace vertra {
 
@@ -169,6 +170,18 @@ constexpr int IsApart(T p, T q, T r) {
     return (ordered ? p : q) > r || (ordered ? q : p) < -r;
 }
 
+/// The same for the least and the greatest of three values.
+template <class T>
+constexpr int AreApart(T p, T q, T s, T r) {
+    T low = p;
+    T high = p;
+    for (T const value : {q, s}) {
+        if (value < low) low = value;
+        if (value > high) high = value;
+    }
+    return low > r || high < -r;
+}
+
 /// A box around the origin with half extents h against the plane n.p + d = 0; touching counts.
 template <class T>
 constexpr int IsPlaneOverlappingBox(Vec4D<T> const& h, Vec4D<T> const& n, T d) {
@@ -199,15 +212,9 @@ constexpr int IsTriangleOverlappingBox(Vec4D<T> const& h, Vec4D<T> const& c, Vec
         if (IsApart(y(t[onY[0]]), y(t[onY[1]]), f.z * h.x + f.x * h.z)) return 0;
         if (IsApart(z(t[onZ[0]]), z(t[onZ[1]]), f.y * h.x + f.x * h.y)) return 0;
     }
-    for (int axis = 0; axis < 3; ++axis) {
-        T low = t[0][axis];
-        T high = low;
-        for (int i = 1; i < 3; ++i) {
-            if (t[i][axis] < low) low = t[i][axis];
-            if (t[i][axis] > high) high = t[i][axis];
-        }
-        if (low > h[axis] || high < -h[axis]) return 0;
-    }
+    if (AreApart(t[0].x, t[1].x, t[2].x, h.x)) return 0;
+    if (AreApart(t[0].y, t[1].y, t[2].y, h.y)) return 0;
+    if (AreApart(t[0].z, t[1].z, t[2].z, h.z)) return 0;
     Vec4D<T> const n = edges[0] ^ edges[1];
     return IsPlaneOverlappingBox(h, n, -Dot3(n, t[0]));
 }

@@ -420,9 +420,9 @@ constexpr Matrix3D<T> Transpose(Matrix3D<T> const& a) {
 }
 
 template <class T>
-constexpr Vec4D<T> const& Vec4D<T>::operator*=(Matrix3D<T> const& a) {
-    w = x * a.m[3] + y * a.m[7] + z * a.m[11] + a.m[15];
-    return *this = *this * a;
+constexpr Vec4D<T> const& Vec4D<T>::operator*=(Matrix3D<T> const& m) {
+    w = x * m.m[3] + y * m.m[7] + z * m.m[11] + m.m[15];
+    return *this = *this * m;
 }
 
 template <class T>
