@@ -258,7 +258,8 @@ constexpr int AABBox3D<T>::Intersects(Vec4D<T> const& direction, Vec4D<T> const&
 
 template <class T>
 constexpr int AABBox3D<T>::Intersects(Line3D<T> const& line) const {
-    return Intersects((line.end + line.start) * T(0.5), Normalize(line.end - line.start), Len(line) * T(0.5));
+    Vec4D<T> const d = line.end - line.start;
+    return Intersects((line.end + line.start) * T(0.5), Normalize(d), Len(d) * T(0.5));
 }
 
 template <class T>

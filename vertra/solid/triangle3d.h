@@ -88,7 +88,8 @@ constexpr int IsOnTheSameSide(Vec4D<T> const& p1, Vec4D<T> const& p2, Vec4D<T> c
 template <class T>
 constexpr int IsInsideTriangle(Triangle3D<T> const& triangle, Vec4D<T> const& point) {
     Vec4D<T> const* const v = triangle.vertex;
-    return IsOnTheSameSide(point, v[0], v[1], v[2]) && IsOnTheSameSide(point, v[1], v[0], v[2]) &&
+    // All three, without a branch: which of them fails is not to be foretold.
+    return IsOnTheSameSide(point, v[0], v[1], v[2]) & IsOnTheSameSide(point, v[1], v[0], v[2]) &
            IsOnTheSameSide(point, v[2], v[0], v[1]);
 }
 /// The same for the point's projection, by barycentric coordinates and their sign bits, without a branch.

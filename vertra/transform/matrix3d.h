@@ -383,15 +383,15 @@ constexpr Matrix3D<T> operator-(Matrix3D<T> const& a) {
 
 template <class T>
 constexpr Matrix3D<T> operator*(Matrix3D<T> const& a, Matrix3D<T> const& b) {
-    Matrix3D<T> result;
+    T product[16] = {};  // not the result itself, which the compiler could not tell from a and b
     for (int i = 0; i < 16; i += 4) {
         T const* const row = a.m + i;
         for (int j = 0; j < 4; ++j) {
-            result.m[i + j] =
+            product[i + j] =
                 row[0] * b.m[j] + row[1] * b.m[4 + j] + row[2] * b.m[8 + j] + row[3] * b.m[12 + j];
         }
     }
-    return result;
+    return Matrix3D<T>(product);
 }
 
 template <class T>
@@ -440,30 +440,31 @@ constexpr T Det(Matrix3D<T> const& a) {
 
 template <class T>
 constexpr Matrix3D<T> Invert(Matrix3D<T> const& a) {
-    T rows[4][8] = {};  // a on the left, what becomes its inverse on the right
-    for (int e = 0; e < 16; ++e) rows[e / 4][e % 4] = a.m[e];
-    for (int i = 0; i < 4; ++i) rows[i][4 + i] = T(1);
+    T left[4][4] = {};  // a, on its way to the identity
+    T right[4][4] = {{T(1)}, {T(0), T(1)}, {T(0), T(0), T(1)}, {T(0), T(0), T(0), T(1)}};
+    for (int e = 0; e < 16; ++e) left[e / 4][e % 4] = a.m[e];
 
     for (int j = 0; j < 4; ++j) {
         int pivot = j;
-        for (int i = j + 1; i < 4; ++i) {
-            if (Abs(rows[i][j]) > Abs(rows[pivot][j])) pivot = i;
+        for (int i = j + 1; i < 4; ++i) pivot = Abs(left[i][j]) > Abs(left[pivot][j]) ? i : pivot;
+        T const reciprocal = T(1) / left[pivot][j];
+        T l[4] = {};
+        T r[4] = {};
+        for (int c = 0; c < 4; ++c) l[c] = left[pivot][c] * reciprocal;
+        for (int c = 0; c < 4; ++c) r[c] = right[pivot][c] * reciprocal;
+        for (int c = 0; c < 4; ++c) left[pivot][c] = left[j][c];
+        for (int c = 0; c < 4; ++c) right[pivot][c] = right[j][c];
+        for (int i = 0; i < 4; ++i) {  // row j too, without a branch: it is overwritten below
+            T const factor = left[i][j];
+            for (int c = 0; c < 4; ++c) left[i][c] -= factor * l[c];
+            for (int c = 0; c < 4; ++c) right[i][c] -= factor * r[c];
         }
-        T const reciprocal = T(1) / rows[pivot][j];
-        for (int c = 0; c < 8; ++c) {
-            T const old = rows[j][c];
-            rows[j][c] = rows[pivot][c] * reciprocal;
-            if (pivot != j) rows[pivot][c] = old;
-        }
-        for (int i = 0; i < 4; ++i) {
-            if (i == j) continue;
-            T const factor = rows[i][j];
-            for (int c = 0; c < 8; ++c) rows[i][c] -= factor * rows[j][c];
-        }
+        for (int c = 0; c < 4; ++c) left[j][c] = l[c];
+        for (int c = 0; c < 4; ++c) right[j][c] = r[c];
     }
 
     Matrix3D<T> result;
-    for (int e = 0; e < 16; ++e) result.m[e] = rows[e / 4][4 + e % 4];
+    for (int e = 0; e < 16; ++e) result.m[e] = right[e / 4][e % 4];
     return result;
 }
 
