@@ -20,13 +20,13 @@ TYPED_TEST(RecordsTest, LightsHoldTheirArgumentsAndDropEveryW) {
     T const defaults[] = {1, 1, 1, 0, 1, 1, 1,    1, 1, 1, 1, 0,       1,      1,
                           1, 0, 0, 0, 0, 0, 1000, 1, 1, 0, 0, T(0.4F), T(0.9F)};
     L numbered, assigned;
-    for (int i = 0; i < 27; ++i) Scalars(numbered)[std::size_t(i + 1)] = T(i + 1);
+    for (int i = 0; i < 27; ++i) Scalars(numbered)[std::size_t(i) + 1] = T(i + 1);
     numbered.type = L::LIGHT_SPOT, assigned.direction.w = assigned.position.w = 7, assigned = numbered;
     // Scalar i of a light is its default from `given` on, and before it the argument, which is i + 1, but for
     // the w.
     auto const expect = [&](L const& light, int type, int given, T w = 0) {
         for (int i = 0; i < 27; ++i)
-            ExpectNear(0, i, Scalars(light)[std::size_t(i + 1)],
+            ExpectNear(0, i, Scalars(light)[std::size_t(i) + 1],
                        i >= given ? defaults[i] : (i == 15 || i == 19 ? w : T(i + 1)), int(light.type), type);
     };
     expect(L(), 3, 0), expect(L(numbered), 2, 27), expect(assigned, 2, 27, 7),
