@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <deque>
+#include <functional>
 #include <iostream>
 #include <random>
 #include <string>
@@ -17,8 +18,11 @@
 
 /// The rooms; each registers its operations.
 void RegisterMatrix();
+void RegisterQuaternion();
 void RegisterVector();
 void RegisterSolid();
+void RegisterSphere();
+void RegisterPlanar();
 
 /// What an operation on single values is timed over: few enough for the first cache.
 inline constexpr int kInputs = 256;
@@ -42,7 +46,7 @@ template <class Peer, template <class> class Ours, class T>
 Peer const* As(Ours<T> const* ours, int count) {
     std::vector<Peer> peers(static_cast<std::size_t>(count));
     for (Peer& peer : peers) {
-        T const* const scalars = *ours++;
+        auto const* const scalars = reinterpret_cast<T const*>(ours++);
         std::copy_n(scalars, std::min(sizeof(Peer), sizeof(Ours<T>)) / sizeof(T),
                     reinterpret_cast<T*>(&peer));
     }
@@ -80,10 +84,11 @@ public:
           tolerance_(tolerance) {}
 
     /// body(i) makes call i, which does the work on `elements` elements, and returns the result. A library
-    /// may join in several forms, told apart by further words: the table shows its fastest.
-    template <class Body>
-    void Add(std::string const& library, Body body, int elements = 1) {
-        Check(library, body);
+    /// may join in several forms, told apart by further words: the table shows its fastest. Results are
+    /// compared as toOurs turns them.
+    template <class Body, class ToOurs = std::identity>
+    void Add(std::string const& library, Body body, int elements = 1, ToOurs toOurs = {}) {
+        Check(library, [&](int i) { return toOurs(body(i)); });
         auto const run = [body, calls = calls_, elements](benchmark::State& state) {
             for (auto _ : state) {
                 for (int i = 0; i < calls; ++i) {

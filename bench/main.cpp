@@ -2,10 +2,11 @@
 
 int main(int argc, char** argv) {
     RegisterMatrix();
-#ifndef VERTRA_BENCH_MATRIX_ALONE
+    RegisterQuaternion();
     RegisterVector();
     RegisterSolid();
-#endif
+    RegisterSphere();
+    RegisterPlanar();
     benchmark::AddCustomContext("compiler", VERTRA_BENCH_COMPILER);
     benchmark::AddCustomContext("flags", VERTRA_BENCH_FLAGS);
     benchmark::AddCustomContext("peers", VERTRA_BENCH_PEERS);

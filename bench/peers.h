@@ -11,6 +11,7 @@
 #define GLM_FORCE_INTRINSICS
 #define GLM_ENABLE_EXPERIMENTAL
 #include <glm/glm.hpp>
+#include <glm/gtc/quaternion.hpp>
 #include <glm/gtc/type_aligned.hpp>
 #include <glm/gtx/intersect.hpp>
 #define IF_GLM(...) __VA_ARGS__
@@ -30,6 +31,10 @@
 #include <Imath/ImathBoxAlgo.h>
 #include <Imath/ImathLineAlgo.h>
 #include <Imath/ImathMatrix.h>
+#include <Imath/ImathMatrixAlgo.h>
+#include <Imath/ImathPlane.h>
+#include <Imath/ImathQuat.h>
+#include <Imath/ImathSphere.h>
 #define IF_IMATH(...) __VA_ARGS__
 #else
 #define IF_IMATH(...)
