@@ -1,37 +1,6 @@
 #!/usr/bin/env bash
 # What the program pick ($1) prints, and what it refuses; works in the directory $2.
-set -euo pipefail
-pick=$(realpath "$1")
-mkdir -p "$2" && cd "$2"
-failures=0
-
-run() {
-    status=0
-    "$pick" "$@" >out 2>err || status=$?
-}
-fail() {
-    failures=$((failures + 1))
-    echo "$1: exit status $status"
-    sed 's/^/    /' out err
-}
-
-# prints WHAT LINES ARGUMENT...: each of the LINES, a regular expression, matches one that pick prints
-prints() {
-    run "${@:3}"
-    local line ok=$((status == 0))
-    while read -r line; do grep -qxE -- "$line" out || ok=0; done <<<"$2"
-    ((ok)) && [[ ! -s err ]] || fail "$1"
-}
-# draws WHAT PICTURE ARGUMENT...
-draws() {
-    run "${@:3}"
-    [[ $status == 0 && $(<out) == "$2" ]] || fail "$1"
-}
-# refuses WHAT WORDS ARGUMENT...: one line with the WORDS on stderr, status 2, nothing on stdout
-refuses() {
-    run "${@:3}"
-    [[ $status == 2 && ! -s out && $(wc -l <err) == 1 && $(<err) == "pick: "*"$2"* ]] || fail "$1"
-}
+source "$(dirname "$0")/run.sh"
 
 prints "the mesh that comes along is hit in the middle" \
     'mesh +2240 vertices, 4480 triangles
@@ -53,6 +22,8 @@ prints "looking away" $'no hit\ntests +0 triangles .*' planes.obj --eye 1.5 2.5 
 prints "in the box, beside the triangles" $'no hit\ntests +5 triangles .*' planes.obj --eye 39 29 5 --target 39 29 0
 
 printf '%s\n' 'v -1 -1 0' 'v 1 -1 0' 'v 1 1 0' 'v -1 1 0' 'f 1 2 3 4' >square.obj
+prints "an eye turned from z to x" 'eye +\((3|2\.9999.*), 0, (0|.*e-.*)\)' \
+    square.obj --eye 0 0 3 --target 0 0 0 --orbit 90 0
 draws "a square, with characters twice as high as wide" $'        \n@@@@@@@ \n@@@@@@@ \n@@@@@@@ ' \
     square.obj --eye .1 .3 3 --target .1 .3 0 --map 8 4
 draws "a square seen at 15 degrees" '-' square.obj --eye 5.8 .3 1.55 --target .1 .3 0 --map 1 1
