@@ -1,6 +1,7 @@
 #pragma once
 
-/// Every header, in dependency order.
+/// Every header, in dependency order, but for the two that bring in the standard containers:
+/// foundation/tree.h and foundation/registry_section.h.
 // clang-format off
 #include <vertra/export.h>
 #include <vertra/numeric/kernel.h>
@@ -24,4 +25,10 @@
 #include <vertra/appearance/color3d.h>
 #include <vertra/appearance/light3d.h>
 #include <vertra/appearance/material3d.h>
+#include <vertra/foundation/base.h>
+#include <vertra/foundation/buffers.h>
+#include <vertra/foundation/service.h>
+#include <vertra/foundation/encrypter_decrypter.h>
+#include <vertra/foundation/smart_ptr.h>
+#include <vertra/foundation/blowfish.h>
 // clang-format on
