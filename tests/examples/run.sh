@@ -1,7 +1,6 @@
 # Sourced by the tests of the programs: sets up to run the program $1 in the directory $2.
 set -euo pipefail
 program=$(realpath "$1")
-name=$(basename "$program")
 mkdir -p "$2" && cd "$2"
 failures=0
 
@@ -30,5 +29,5 @@ draws() {
 # refuses WHAT WORDS ARGUMENT...: one line with the WORDS on stderr, status 2, nothing on stdout
 refuses() {
     run "${@:3}"
-    [[ $status == 2 && ! -s out && $(wc -l <err) == 1 && $(<err) == "$name: "*"$2"* ]] || fail "$1"
+    [[ $status == 2 && ! -s out && $(wc -l <err) == 1 && $(<err) == "${program##*/}: "*"$2"* ]] || fail "$1"
 }
