@@ -51,6 +51,18 @@ constexpr int IsEqual(T a, T b, T tolerance) {
     return Abs(a - b) <= Abs(a) * tolerance;
 }
 
+/// value, but at most bound; where one is a NaN, value stays. Without a branch, as Raise.
+template <class T>
+constexpr void Lower(T& value, T bound) {
+    value = value > bound ? bound : value;
+}
+
+/// value, but at least bound; where one is a NaN, value stays.
+template <class T>
+constexpr void Raise(T& value, T bound) {
+    value = bound > value ? bound : value;
+}
+
 /// -x, as the matrix and the quaternion take it: in float 0 - x, which leaves +0 positive; in double the sign
 /// flips.
 template <class T>

@@ -2,6 +2,7 @@
 
 #include <vertra/export.h>
 #include <vertra/numeric/dimension2d.h>
+#include <vertra/numeric/kernel.h>
 #include <vertra/numeric/position2d.h>
 
 namespace vertra {
@@ -157,30 +158,30 @@ constexpr Rect2D<T> const& Rect2D<T>::Repair() {
 
 template <class T>
 constexpr Rect2D<T> const& Rect2D<T>::Clip(Rect2D const& r) {
-    if (bottomRight.x > r.bottomRight.x) bottomRight.x = r.bottomRight.x;
-    if (bottomRight.y > r.bottomRight.y) bottomRight.y = r.bottomRight.y;
-    if (r.topLeft.x > topLeft.x) topLeft.x = r.topLeft.x;
-    if (r.topLeft.y > topLeft.y) topLeft.y = r.topLeft.y;
-    if (topLeft.y > bottomRight.y) topLeft.y = bottomRight.y;
-    if (topLeft.x > bottomRight.x) topLeft.x = bottomRight.x;
+    Lower(bottomRight.x, r.bottomRight.x);
+    Lower(bottomRight.y, r.bottomRight.y);
+    Raise(topLeft.x, r.topLeft.x);
+    Raise(topLeft.y, r.topLeft.y);
+    Lower(topLeft.y, bottomRight.y);
+    Lower(topLeft.x, bottomRight.x);
     return *this;
 }
 
 template <class T>
 constexpr Rect2D<T> const& Rect2D<T>::operator&=(Rect2D const& r) {
-    if (topLeft.x > r.topLeft.x) topLeft.x = r.topLeft.x;
-    if (topLeft.y > r.topLeft.y) topLeft.y = r.topLeft.y;
-    if (bottomRight.x > r.bottomRight.x) bottomRight.x = r.bottomRight.x;
-    if (bottomRight.y > r.bottomRight.y) bottomRight.y = r.bottomRight.y;
+    Lower(topLeft.x, r.topLeft.x);
+    Lower(topLeft.y, r.topLeft.y);
+    Lower(bottomRight.x, r.bottomRight.x);
+    Lower(bottomRight.y, r.bottomRight.y);
     return *this;
 }
 
 template <class T>
 constexpr Rect2D<T> const& Rect2D<T>::operator|=(Rect2D const& r) {
-    if (r.topLeft.x > topLeft.x) topLeft.x = r.topLeft.x;
-    if (r.topLeft.y > topLeft.y) topLeft.y = r.topLeft.y;
-    if (r.bottomRight.x > bottomRight.x) bottomRight.x = r.bottomRight.x;
-    if (r.bottomRight.y > bottomRight.y) bottomRight.y = r.bottomRight.y;
+    Raise(topLeft.x, r.topLeft.x);
+    Raise(topLeft.y, r.topLeft.y);
+    Raise(bottomRight.x, r.bottomRight.x);
+    Raise(bottomRight.y, r.bottomRight.y);
     return *this;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vertra/export.h>
+#include <vertra/numeric/kernel.h>
 #include <vertra/numeric/vec4d.h>
 #include <vertra/solid/line3d.h>
 #include <vertra/solid/plane3d.h>
@@ -145,12 +146,12 @@ constexpr AABBox3D<T> const& AABBox3D<T>::Reset(AABBox3D const& other) {
 
 template <class T>
 constexpr AABBox3D<T> const& AABBox3D<T>::Add(T x, T y, T z) {
-    if (x > max.x) max.x = x;
-    if (y > max.y) max.y = y;
-    if (z > max.z) max.z = z;
-    if (min.x > x) min.x = x;
-    if (min.y > y) min.y = y;
-    if (min.z > z) min.z = z;
+    Raise(max.x, x);
+    Raise(max.y, y);
+    Raise(max.z, z);
+    Lower(min.x, x);
+    Lower(min.y, y);
+    Lower(min.z, z);
     return *this;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vertra/export.h>
+#include <vertra/numeric/kernel.h>
 #include <vertra/numeric/vec4d.h>
 #include <vertra/solid/aabbox3d.h>
 #include <vertra/solid/sphere3d.h>
@@ -77,7 +78,7 @@ constexpr BSphere3D<T> const& BSphere3D<T>::Add(AABBox3D<T> const& box) {
 template <class T>
 constexpr BSphere3D<T> const& BSphere3D<T>::Add(BSphere3D const& other) {
     T const reach = GetDistanceBetween(center, other.center) + other.radius;
-    if (reach > radius) radius = reach;
+    Raise(radius, reach);
     return *this;
 }
 

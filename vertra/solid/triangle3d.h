@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vertra/export.h>
+#include <vertra/numeric/kernel.h>
 #include <vertra/numeric/vec4d.h>
 #include <vertra/solid/aabbox3d.h>
 #include <vertra/solid/line3d.h>
@@ -177,8 +178,8 @@ constexpr int AreApart(T p, T q, T s, T r) {
     T low = p;
     T high = p;
     for (T const value : {q, s}) {
-        if (value < low) low = value;
-        if (value > high) high = value;
+        Lower(low, value);
+        Raise(high, value);
     }
     return low > r || high < -r;
 }

@@ -438,33 +438,50 @@ constexpr T Det(Matrix3D<T> const& a) {
            m[8] * (m[1] * q - m[5] * s + m[13] * u) - m[12] * (m[1] * r - m[5] * t + m[9] * u);
 }
 
+namespace detail {
+
+/// A matrix, on its way to the identity, and to its right the identity, on its way to the inverse.
+template <class T>
+using Augmented = T[4][8];
+
+/// One step of Gauss-Jordan elimination with row pivoting: column j of `to` is that of the identity. The rows
+/// go over to other memory and j is a constant, so that no branch and no store waits for the pivot.
+template <int j, class T>
+constexpr void EliminateColumn(Augmented<T> const& from, Augmented<T>& to) {
+    int pivot = j;
+    T best = from[j][j];
+    for (int i = j + 1; i < 4; ++i) {
+        bool const larger = Abs(from[i][j]) > Abs(best);
+        pivot = larger ? i : pivot;
+        best = larger ? from[i][j] : best;
+    }
+    T const reciprocal = T(1) / best;
+    T unit[8] = {};
+    for (int c = 0; c < 8; ++c) unit[c] = from[pivot][c] * reciprocal;
+    for (int i = 0; i < 4; ++i) {  // row j too: it is overwritten below
+        T const(&row)[8] = from[i == pivot ? j : i];
+        T const factor = row[j];
+        for (int c = 0; c < 8; ++c) to[i][c] = row[c] - factor * unit[c];
+    }
+    for (int c = 0; c < 8; ++c) to[j][c] = unit[c];
+}
+
+}  // namespace detail
+
 template <class T>
 constexpr Matrix3D<T> Invert(Matrix3D<T> const& a) {
-    T left[4][4] = {};  // a, on its way to the identity
-    T right[4][4] = {{T(1)}, {T(0), T(1)}, {T(0), T(0), T(1)}, {T(0), T(0), T(0), T(1)}};
-    for (int e = 0; e < 16; ++e) left[e / 4][e % 4] = a.m[e];
+    detail::Augmented<T> even = {};
+    detail::Augmented<T> odd = {};
+    for (int e = 0; e < 16; ++e) even[e / 4][e % 4] = a.m[e];
+    for (int i = 0; i < 4; ++i) even[i][4 + i] = T(1);
 
-    for (int j = 0; j < 4; ++j) {
-        int pivot = j;
-        for (int i = j + 1; i < 4; ++i) pivot = Abs(left[i][j]) > Abs(left[pivot][j]) ? i : pivot;
-        T const reciprocal = T(1) / left[pivot][j];
-        T l[4] = {};
-        T r[4] = {};
-        for (int c = 0; c < 4; ++c) l[c] = left[pivot][c] * reciprocal;
-        for (int c = 0; c < 4; ++c) r[c] = right[pivot][c] * reciprocal;
-        for (int c = 0; c < 4; ++c) left[pivot][c] = left[j][c];
-        for (int c = 0; c < 4; ++c) right[pivot][c] = right[j][c];
-        for (int i = 0; i < 4; ++i) {  // row j too, without a branch: it is overwritten below
-            T const factor = left[i][j];
-            for (int c = 0; c < 4; ++c) left[i][c] -= factor * l[c];
-            for (int c = 0; c < 4; ++c) right[i][c] -= factor * r[c];
-        }
-        for (int c = 0; c < 4; ++c) left[j][c] = l[c];
-        for (int c = 0; c < 4; ++c) right[j][c] = r[c];
-    }
+    detail::EliminateColumn<0>(even, odd);
+    detail::EliminateColumn<1>(odd, even);
+    detail::EliminateColumn<2>(even, odd);
+    detail::EliminateColumn<3>(odd, even);
 
     Matrix3D<T> result;
-    for (int e = 0; e < 16; ++e) result.m[e] = right[e / 4][e % 4];
+    for (int e = 0; e < 16; ++e) result.m[e] = even[e / 4][4 + e % 4];
     return result;
 }
 
