@@ -25,24 +25,31 @@ def rows_of(report):
     return rows
 
 
-def table_of(report, heading, verdict):
-    """verdict(ours, best peer) is what stands under the heading."""
+def table_of(report, verdicts):
+    """verdicts: {heading: (peers, what of our time and their best to show)}"""
     print(f"\n{report['context']['compiler']}, `{report['context']['flags']}`:\n")
-    print("| operation | vertra |", " | ".join(PEERS), "|", heading, "| spread |")
-    print("|---|" + "--:|" * (len(PEERS) + 3))
+    print("| operation | vertra |", " | ".join(PEERS + list(verdicts)), "| spread |")
+    print("|---|" + "--:|" * (len(PEERS) + len(verdicts) + 2))
     for operation, row in sorted(rows_of(report).items()):
         cells = [f"{row[library][0]:.2f}" if library in row else "" for library in ["vertra"] + PEERS]
-        peers = [row[peer][0] for peer in PEERS if peer in row]
-        cells.append(verdict(row["vertra"][0], min(peers)) if peers else "")
+        for peers, show in verdicts.values():
+            best = min((row[peer][0] for peer in peers if peer in row), default=None)
+            cells.append(show(row["vertra"][0], best) if best else "")
         cells.append(f"{100 * max(spread for _, spread in row.values()):.0f} %")
         print("|", operation, "|", " | ".join(cells), "|")
 
 
-def mark(text, behind):
-    return f"**{text}**" if behind else text
+def slower(ours, best):
+    """How many times our time is the best peer's; bold above 1.5."""
+    return f"**{ours / best:.2f}**" if ours > 1.5 * best else f"{ours / best:.2f}"
+
+
+def faster(ours, best):
+    """How many times the best peer's time is ours; bold below 10."""
+    return f"**{best / ours:.1f}**" if best < 10 * ours else f"{best / ours:.1f}"
 
 
 optimised, unoptimised = (json.load(open(name)) for name in sys.argv[1:])
 print("Peers:", optimised["context"]["peers"])
-table_of(optimised, "ours / best peer", lambda ours, best: mark(f"{ours / best:.2f}", ours > 1.5 * best))
-table_of(unoptimised, "best peer / ours", lambda ours, best: mark(f"{best / ours:.1f}", best < 10 * ours))
+table_of(optimised, {"ours / best peer": (PEERS, slower)})
+table_of(unoptimised, {"glm or Eigen / ours": (["glm", "Eigen"], faster), "Imath / ours": (["Imath"], faster)})

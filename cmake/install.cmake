@@ -1,7 +1,7 @@
 # cmake --install: libraries, headers, the package for find_package(vertra CONFIG), vertra.pc for pkg-config.
 include(CMakePackageConfigHelpers)
 
-install(TARGETS vertra keel EXPORT vertra FILE_SET HEADERS)
+install(TARGETS vertra keel EXPORT vertra FILE_SET HEADERS FILE_SET interop)
 
 # Nothing else is needed, so the exported targets are the whole package configuration.
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vertra)

@@ -4,6 +4,7 @@
 #include <vertra/solid/bsphere3d.h>
 #include <vertra/solid/triangle3d.h>
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -17,6 +18,7 @@ inline constexpr double kFarthest = 1e9;
 struct Mesh {
     std::size_t vertices = 0;                           ///< how many the file holds, used or not
     std::vector<vertra::Triangle3D<double>> triangles;  ///< at least one
+    std::vector<std::array<std::size_t, 3>> corners;    ///< their vertices' numbers in the file, from 0
     vertra::AABBox3D<double> box;                       ///< around the triangles
     vertra::BSphere3D<double> sphere;                   ///< around the box
 };
