@@ -11,7 +11,7 @@ run() {
 fail() {
     failures=$((failures + 1))
     echo "$1: exit status $status"
-    sed 's/^/    /' out err
+    sed 's/^/    /' out err | cut -c -160
 }
 
 # prints WHAT LINES ARGUMENT...: each of the LINES, a regular expression, matches one that the program prints

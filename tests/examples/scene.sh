@@ -52,7 +52,6 @@ an unknown field| node "a": unknown field "rotation"|$n "a": {"rotation": [0, 0,
 a node above itself| node "b": children: cyclic reference to "a"|$n "a": {"children": ["b"]}, "b": {"children": ["a"]}}}
 a node of two parents| node "a": children: "b" is a child of "a" already|$n "a": {"children": ["b", "b"]}, "b": {}}}
 a node of no parent| node "b": is not below the root|$n "a": {}, "b": {}}}
-a text for a number| node "a": scale: needs 3 numbers|$n "a": {"scale": [1, 2, "3"]}}}
 too far| node "a": rotate: needs 3 numbers|$n "a": {"rotate": [0, 2e9, 0]}}}
 too far in the world| node "b": its matrix|$n "a": {"scale": [1e5, 1, 1], "children": ["b"]}, "b": {"scale": [1e5, 1, 1]}}}
 a matrix that projects| node "a": matrix: needs 0|$n "a": {"matrix": [1,0,0,0, 0,1,0,0, 0,0,1,1, 0,0,0,1]}}}
