@@ -102,13 +102,16 @@ Mesh LoadMesh(std::string const& path) {
     mesh.vertices = attributes.vertices.size() / 3;
     for (tinyobj::shape_t const& shape : shapes) {
         auto const& indices = shape.mesh.indices;
-        auto const number = [&](std::size_t i) { return static_cast<std::size_t>(indices.at(i).vertex_index); };
+        auto const number = [&](std::size_t i) {
+            return static_cast<std::size_t>(indices.at(i).vertex_index);
+        };
         auto const vertex = [&](std::size_t i) {
             auto const& v = attributes.vertices;
             return Vec4D<double>(v.at(3 * i), v.at(3 * i + 1), v.at(3 * i + 2));
         };
         for (std::size_t i = 0; i < indices.size(); i += 3) {
-            auto const [a, b, c] = mesh.corners.emplace_back(std::array{number(i), number(i + 1), number(i + 2)});
+            auto const [a, b, c] =
+                mesh.corners.emplace_back(std::array{number(i), number(i + 1), number(i + 2)});
             mesh.triangles.emplace_back(vertex(a), vertex(b), vertex(c));
         }
     }

@@ -15,13 +15,6 @@ namespace {
 using vertra::Quat3D;
 using vertra::Vec4D;
 
-Vec4D<double> Point(std::string const& option, std::array<double, 3> const& p) {
-    if (!std::ranges::all_of(p, [](double number) { return std::abs(number) <= kFarthest; })) {
-        throw Error(option + ": needs numbers between -1e9 and 1e9");
-    }
-    return Vec4D<double>(p.data());
-}
-
 /// The offset turned about x by the pitch, then about y by the yaw. A quaternion turns a vector by minus its
 /// angle, so that its conjugate turns it by the angle itself.
 Vec4D<double> Orbited(Vec4D<double> const& offset, std::array<double, 2> const& degrees) {
@@ -31,6 +24,13 @@ Vec4D<double> Orbited(Vec4D<double> const& offset, std::array<double, 2> const& 
 }
 
 }  // namespace
+
+Vec4D<double> Point(std::string const& option, std::array<double, 3> const& p) {
+    if (!std::ranges::all_of(p, [](double number) { return std::abs(number) <= kFarthest; })) {
+        throw Error(option + ": needs numbers between -1e9 and 1e9");
+    }
+    return Vec4D<double>(p.data());
+}
 
 void Options::AddTo(CLI::App& app) {
     file = EXAMPLE_DATA "/knot.obj";

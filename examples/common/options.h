@@ -10,6 +10,9 @@
 
 namespace example {
 
+/// What the option holds. Throws an Error that names it unless all are numbers up to kFarthest.
+vertra::Vec4D<double> Point(std::string const& option, std::array<double, 3> const& p);
+
 /// What the examples take in common: a mesh, the size of its picture, and where it is seen from.
 struct Options {
     std::string file;  ///< by default the mesh that comes with the examples
