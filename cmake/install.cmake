@@ -18,3 +18,10 @@ set(includedir "\${prefix}")
 cmake_path(APPEND includedir ${CMAKE_INSTALL_INCLUDEDIR})
 configure_file(cmake/vertra.pc.in vertra.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/vertra.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# What shows our types in a debugger. gdb looks for its part under its data directory, by the library's whole path.
+set(gdb_dir "\${CMAKE_INSTALL_PREFIX}")
+cmake_path(APPEND gdb_dir ${CMAKE_INSTALL_LIBDIR})
+install(FILES debugger/gdb.py RENAME $<TARGET_FILE_NAME:vertra>-gdb.py
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${gdb_dir})
+install(FILES debugger/vertra.natvis DESTINATION ${CMAKE_INSTALL_DATADIR}/vertra)
