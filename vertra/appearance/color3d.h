@@ -90,12 +90,12 @@ public:
     constexpr operator T*() { return &r; }
     constexpr operator T const*() const { return &r; }
     /// Channel i, 0 to 3 in the order r, g, b, a; not range-checked.
-    constexpr T& operator[](int i) { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T& operator[](unsigned int i) { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T& operator[](std::size_t i);
-    constexpr T const& operator[](int i) const { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T const& operator[](unsigned int i) const { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T const& operator[](std::size_t i) const;
+    constexpr T& operator[](int i) { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T& operator[](unsigned int i) { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T& operator[](WideIndex i);
+    constexpr T const& operator[](int i) const { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T const& operator[](unsigned int i) const { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T const& operator[](WideIndex i) const;
     /// The packed word: each channel times 255, truncated, its low eight bits. Out of 0 to 1 it wraps; a NaN,
     /// and what does not fit 64 bits, gives the byte 0.
     constexpr operator unsigned int() { return static_cast<Color3D const&>(*this); }
@@ -244,12 +244,12 @@ constexpr Color3D<T> const& Color3D<T>::operator=(Color3D const& other) {
 }
 
 template <class T>
-constexpr T& Color3D<T>::operator[](std::size_t i) {
+constexpr T& Color3D<T>::operator[](WideIndex i) {
     return const_cast<T&>(static_cast<Color3D const&>(*this)[i]);
 }
 
 template <class T>
-constexpr T const& Color3D<T>::operator[](std::size_t i) const {
+constexpr T const& Color3D<T>::operator[](WideIndex i) const {
     if (!std::is_constant_evaluated()) return reinterpret_cast<T const*>(this)[i];
     switch (i) {
         case 0: return r;

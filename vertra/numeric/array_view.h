@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <type_traits>
 
 /// A type with an array view converts to a pointer to its first scalar. These deleted operators keep
@@ -15,6 +16,10 @@ template <class>
 inline constexpr bool compares_with_scalar = false;
 
 template <class V> concept ArrayView = is_array_view<V>;
+
+/// What subscripts take beside int and unsigned int: std::size_t, and unsigned long where that is unsigned
+/// int.
+using WideIndex = std::conditional_t<std::is_same_v<std::size_t, unsigned int>, unsigned long, std::size_t>;
 
 /// What V's own comparisons do not take.
 template <class U, class V> concept IncomparableWith = !(std::is_arithmetic_v<U> && compares_with_scalar<V>);

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <bit>
+#include <cfloat>
 #include <cstdint>
 #include <type_traits>
 
 /// The numeric kernel: the one square root, and the only places that look at the bits of a number.
 /// Internal to the library: nothing here is exported.
 namespace vertra {
+
+static_assert(FLT_EVAL_METHOD == 0,
+              "vertra needs float and double computed as such: not on the x87 (-msse2 -mfpmath=sse)");
 
 /// The tolerance of the plane, box and sphere tests: one number for both scalars, compared in double.
 inline constexpr double kContactTolerance = 0.0001;

@@ -52,12 +52,12 @@ public:
     constexpr Vec3D const& Set(T x_, T y_, T z_);
 
     /// Component i, 0 to 2 in the order x, y, z; not range-checked.
-    constexpr T& operator[](int i) { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T& operator[](unsigned int i) { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T& operator[](std::size_t i);
-    constexpr T const& operator[](int i) const { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T const& operator[](unsigned int i) const { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T const& operator[](std::size_t i) const;
+    constexpr T& operator[](int i) { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T& operator[](unsigned int i) { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T& operator[](WideIndex i);
+    constexpr T const& operator[](int i) const { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T const& operator[](unsigned int i) const { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T const& operator[](WideIndex i) const;
     /// The array view: three scalars from x on.
     constexpr operator T*() { return &x; }
     constexpr operator T const*() const { return &x; }
@@ -271,12 +271,12 @@ constexpr Vec3D<T> const& Vec3D<T>::Set(T x_, T y_, T z_) {
 }
 
 template <class T>
-constexpr T& Vec3D<T>::operator[](std::size_t i) {
+constexpr T& Vec3D<T>::operator[](WideIndex i) {
     return const_cast<T&>(static_cast<Vec3D const&>(*this)[i]);
 }
 
 template <class T>
-constexpr T const& Vec3D<T>::operator[](std::size_t i) const {
+constexpr T const& Vec3D<T>::operator[](WideIndex i) const {
     if (!std::is_constant_evaluated()) return reinterpret_cast<T const*>(this)[i];
     switch (i) {
         case 0: return x;

@@ -67,12 +67,12 @@ public:
     constexpr Vec4D const& Set(T x_, T y_, T z_);
 
     /// Component i, 0 to 3 in the order x, y, z, w; not range-checked.
-    constexpr T& operator[](int i) { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T& operator[](unsigned int i) { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T& operator[](std::size_t i);
-    constexpr T const& operator[](int i) const { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T const& operator[](unsigned int i) const { return (*this)[static_cast<std::size_t>(i)]; }
-    constexpr T const& operator[](std::size_t i) const;
+    constexpr T& operator[](int i) { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T& operator[](unsigned int i) { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T& operator[](WideIndex i);
+    constexpr T const& operator[](int i) const { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T const& operator[](unsigned int i) const { return (*this)[static_cast<WideIndex>(i)]; }
+    constexpr T const& operator[](WideIndex i) const;
     /// The array view: four scalars from x on.
     constexpr operator T*() { return &x; }
     constexpr operator T const*() const { return &x; }
@@ -334,12 +334,12 @@ constexpr Vec4D<T> const& Vec4D<T>::Set(T x_, T y_, T z_) {
 }
 
 template <class T>
-constexpr T& Vec4D<T>::operator[](std::size_t i) {
+constexpr T& Vec4D<T>::operator[](WideIndex i) {
     return const_cast<T&>(static_cast<Vec4D const&>(*this)[i]);
 }
 
 template <class T>
-constexpr T const& Vec4D<T>::operator[](std::size_t i) const {
+constexpr T const& Vec4D<T>::operator[](WideIndex i) const {
     if (!std::is_constant_evaluated()) return reinterpret_cast<T const*>(this)[i];
     switch (i) {
         case 0: return x;

@@ -36,10 +36,10 @@ public:
     /// Vertex i, 0 to 2; not range-checked.
     constexpr Vec4D<T>& operator[](int i) { return vertex[i]; }
     constexpr Vec4D<T>& operator[](unsigned int i) { return vertex[i]; }
-    constexpr Vec4D<T>& operator[](std::size_t i) { return vertex[i]; }
+    constexpr Vec4D<T>& operator[](WideIndex i) { return vertex[i]; }
     constexpr Vec4D<T> const& operator[](int i) const { return vertex[i]; }
     constexpr Vec4D<T> const& operator[](unsigned int i) const { return vertex[i]; }
-    constexpr Vec4D<T> const& operator[](std::size_t i) const { return vertex[i]; }
+    constexpr Vec4D<T> const& operator[](WideIndex i) const { return vertex[i]; }
     /// The plane of the triangle, with a unit normal; a zero one for a triangle of no area.
     constexpr operator Plane3D<T>() const { return Plane3D<T>(vertex[0], vertex[1], vertex[2]); }
 

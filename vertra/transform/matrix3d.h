@@ -73,7 +73,7 @@ public:
     /// Element i, 0 to 15, by value: flat, not a row, and not to be assigned through. Not range-checked.
     constexpr T operator[](int i) { return m[i]; }
     constexpr T operator[](unsigned int i) { return m[i]; }
-    constexpr T operator[](std::size_t i) { return m[i]; }
+    constexpr T operator[](WideIndex i) { return m[i]; }
     /// The array view: sixteen scalars from element 0 on.
     constexpr operator T*() { return m; }
     constexpr operator T const*() const { return m; }
