@@ -8,11 +8,12 @@
 #include <array>
 #include <cctype>
 #include <cmath>
+#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
+#include <iterator>
 #include <numbers>
-#include <ranges>
 #include <set>
 #include <sstream>
 #include <string_view>
@@ -154,7 +155,7 @@ std::unique_ptr<Node> MakeTree(Json const& json) {
     if (nodes == nullptr || !nodes->is_object()) throw Error("nodes: needs names with fields, in braces");
 
     std::map<std::string, Node*> byName;
-    std::vector<Node*> order;
+    std::deque<Node*> open;  // entered, but not read yet
     auto const enter = [&](Node& node, std::string const& name) {
         if (!nodes->contains(name)) throw Error("there is no node " + Quoted(name));
         Node const* const parent = node.GetParent();
@@ -168,13 +169,13 @@ std::unique_ptr<Node> MakeTree(Json const& json) {
         node.name = name;
         node.level = parent == nullptr ? 0 : parent->level + 1;
         byName.emplace(name, &node);
-        order.push_back(&node);
+        open.push_back(&node);
     };
 
     auto root = std::make_unique<Node>(nullptr);
     enter(*root, ReadText(Find(json, "root"), "root"));
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        Node& node = *order[i];
+    for (; !open.empty(); open.pop_front()) {
+        Node& node = *open.front();
         try {
             Json const& fields = nodes->at(node.name);
             CheckFields(fields, {"mesh", "translate", "rotate", "scale", "matrix", "children"});
@@ -202,9 +203,8 @@ std::vector<Node*> Walk(Node& root) {
         Node* const node = open.back();
         open.pop_back();
         order.push_back(node);
-        for (auto const& child : std::views::reverse(node->children)) {
-            open.push_back(static_cast<Node*>(child.Get()));
-        }
+        std::transform(node->children.rbegin(), node->children.rend(), std::back_inserter(open),
+                       [](auto const& child) { return static_cast<Node*>(child.Get()); });
     }
     return order;
 }
