@@ -33,7 +33,8 @@ std::size_t Hash(X const& x) {
     } else {
         std::size_t hash = 0;
         // 2^64 over the golden ratio, as in Knuth, "The Art of Computer Programming", volume 3, 6.4.
-        auto const mix = [&](std::size_t h) { hash ^= h + 0x9E3779B97F4A7C15U + (hash << 6) + (hash >> 2); };
+        constexpr auto kGolden = static_cast<std::size_t>(0x9E3779B97F4A7C15U);
+        auto const mix = [&](std::size_t h) { hash ^= h + kGolden + (hash << 6) + (hash >> 2); };
         std::apply([&](auto const&... fields) { (mix(Hash(fields)), ...); }, detail::Fields(x));
         return hash;
     }
