@@ -42,10 +42,10 @@ constexpr T UnpackedByte(unsigned int packed, int index) {
     return static_cast<T>(packed >> (8 * index) & 0xFF) * (T(1) / T(255));
 }
 
-}  // namespace detail
-
 /// A scalar of another type than the colour's.
 template <class S, class T> concept OtherScalar = std::is_arithmetic_v<S> && !std::same_as<S, T>;
+
+}  // namespace detail
 
 /// A colour on the nominal range 0 to 1, alpha last.
 ///
@@ -104,9 +104,9 @@ public:
     /// the one to int alone there, and does not at templates).
     operator int() = delete;
     operator int() const = delete;
-    template <OtherScalar<unsigned int> S>
+    template <detail::OtherScalar<unsigned int> S>
     operator S() = delete;
-    template <OtherScalar<unsigned int> S>
+    template <detail::OtherScalar<unsigned int> S>
     operator S() const = delete;
 
     constexpr T Red() const { return r; }
@@ -163,19 +163,19 @@ constexpr Color3D<T> operator/(std::type_identity_t<T> s, Color3D<T> const& c) {
 }
 
 // Without these a scalar of another type, as in `c * 2`, would waver between T and the packed word.
-template <class T, OtherScalar<T> S>
+template <class T, detail::OtherScalar<T> S>
 constexpr Color3D<T> operator*(Color3D<T> const& c, S s) {
     return c * static_cast<T>(s);
 }
-template <class T, OtherScalar<T> S>
+template <class T, detail::OtherScalar<T> S>
 constexpr Color3D<T> operator*(S s, Color3D<T> const& c) {
     return c * static_cast<T>(s);
 }
-template <class T, OtherScalar<T> S>
+template <class T, detail::OtherScalar<T> S>
 constexpr Color3D<T> operator/(Color3D<T> const& c, S s) {
     return c / static_cast<T>(s);
 }
-template <class T, OtherScalar<T> S>
+template <class T, detail::OtherScalar<T> S>
 constexpr Color3D<T> operator/(S s, Color3D<T> const& c) {
     return static_cast<T>(s) / c;
 }

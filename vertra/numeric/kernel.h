@@ -12,9 +12,6 @@ namespace vertra {
 static_assert(FLT_EVAL_METHOD == 0,
               "vertra needs float and double computed as such: not on the x87 (-msse2 -mfpmath=sse)");
 
-/// The tolerance of the plane, box and sphere tests: one number for both scalars, compared in double.
-inline constexpr double kContactTolerance = 0.0001;
-
 /// Approximately 1 / sqrt(x): a first estimate from the bit pattern, then three Newton steps
 /// (after C. Lomont, "Fast Inverse Square Root", 2003, whose constant this is).
 /// The last step is held in double and rounded once, which makes the root of 1 exactly 1.
@@ -33,26 +30,19 @@ constexpr float FastInvSqrt(float x) {
 /// large.
 constexpr float FastSqrt(float x) { return 1.0F / FastInvSqrt(x); }
 
+namespace detail {
+
+/// The tolerance of the plane, box and sphere tests: one number for both scalars, compared in double.
+inline constexpr double kContactTolerance = 0.0001;
+
 /// The unsigned integer as wide as T.
 template <class T>
 using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
 
-/// 1 when the sign bit is set, as it is on -0.
+/// 1 when the sign bit is set, as it is on -0, and for a NaN, whose sign bit differs by processor.
 template <class T>
 constexpr int SignBit(T x) {
-    return static_cast<int>(std::bit_cast<Bits<T>>(x) >> (8 * sizeof(T) - 1));
-}
-
-/// x with its sign bit cleared: -0 becomes +0, a NaN stays one.
-template <class T>
-constexpr T Abs(T x) {
-    return std::bit_cast<T>(std::bit_cast<Bits<T>>(x) & (~Bits<T>(0) >> 1));
-}
-
-/// 1 when |a - b| <= |a| * tolerance: relative to the first operand alone, so not symmetric; 0 for a NaN.
-template <class T>
-constexpr int IsEqual(T a, T b, T tolerance) {
-    return Abs(a - b) <= Abs(a) * tolerance;
+    return static_cast<int>(std::bit_cast<Bits<T>>(x) >> (8 * sizeof(T) - 1)) | (x != x);
 }
 
 /// value, but at most bound; where one is a NaN, value stays. Without a branch, as Raise.
@@ -73,6 +63,20 @@ template <class T>
 constexpr T Negate(T x) {
     if constexpr (std::is_same_v<T, float>) return 0.0F - x;
     return -x;
+}
+
+}  // namespace detail
+
+/// x with its sign bit cleared: -0 becomes +0, a NaN stays one.
+template <class T>
+constexpr T Abs(T x) {
+    return std::bit_cast<T>(std::bit_cast<detail::Bits<T>>(x) & (~detail::Bits<T>(0) >> 1));
+}
+
+/// 1 when |a - b| <= |a| * tolerance: relative to the first operand alone, so not symmetric; 0 for a NaN.
+template <class T>
+constexpr int IsEqual(T a, T b, T tolerance) {
+    return Abs(a - b) <= Abs(a) * tolerance;
 }
 
 }  // namespace vertra

@@ -49,7 +49,7 @@ public:
     /// Swaps the edges of each axis that is inverted.
     constexpr Rect2D const& Repair();
     /// Becomes the intersection with r. Where they are disjoint it is left with a width or height of 0, on
-    /// the edge nearest to r.
+    /// the right or bottom edge of the one that lies further left or up.
     constexpr Rect2D const& Clip(Rect2D const& r);
     /// Each field becomes the smaller of the two: no intersection.
     constexpr Rect2D const& operator&=(Rect2D const& r);
@@ -158,30 +158,30 @@ constexpr Rect2D<T> const& Rect2D<T>::Repair() {
 
 template <class T>
 constexpr Rect2D<T> const& Rect2D<T>::Clip(Rect2D const& r) {
-    Lower(bottomRight.x, r.bottomRight.x);
-    Lower(bottomRight.y, r.bottomRight.y);
-    Raise(topLeft.x, r.topLeft.x);
-    Raise(topLeft.y, r.topLeft.y);
-    Lower(topLeft.y, bottomRight.y);
-    Lower(topLeft.x, bottomRight.x);
+    detail::Lower(bottomRight.x, r.bottomRight.x);
+    detail::Lower(bottomRight.y, r.bottomRight.y);
+    detail::Raise(topLeft.x, r.topLeft.x);
+    detail::Raise(topLeft.y, r.topLeft.y);
+    detail::Lower(topLeft.y, bottomRight.y);
+    detail::Lower(topLeft.x, bottomRight.x);
     return *this;
 }
 
 template <class T>
 constexpr Rect2D<T> const& Rect2D<T>::operator&=(Rect2D const& r) {
-    Lower(topLeft.x, r.topLeft.x);
-    Lower(topLeft.y, r.topLeft.y);
-    Lower(bottomRight.x, r.bottomRight.x);
-    Lower(bottomRight.y, r.bottomRight.y);
+    detail::Lower(topLeft.x, r.topLeft.x);
+    detail::Lower(topLeft.y, r.topLeft.y);
+    detail::Lower(bottomRight.x, r.bottomRight.x);
+    detail::Lower(bottomRight.y, r.bottomRight.y);
     return *this;
 }
 
 template <class T>
 constexpr Rect2D<T> const& Rect2D<T>::operator|=(Rect2D const& r) {
-    Raise(topLeft.x, r.topLeft.x);
-    Raise(topLeft.y, r.topLeft.y);
-    Raise(bottomRight.x, r.bottomRight.x);
-    Raise(bottomRight.y, r.bottomRight.y);
+    detail::Raise(topLeft.x, r.topLeft.x);
+    detail::Raise(topLeft.y, r.topLeft.y);
+    detail::Raise(bottomRight.x, r.bottomRight.x);
+    detail::Raise(bottomRight.y, r.bottomRight.y);
     return *this;
 }
 

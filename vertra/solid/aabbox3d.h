@@ -146,12 +146,12 @@ constexpr AABBox3D<T> const& AABBox3D<T>::Reset(AABBox3D const& other) {
 
 template <class T>
 constexpr AABBox3D<T> const& AABBox3D<T>::Add(T x, T y, T z) {
-    Raise(max.x, x);
-    Raise(max.y, y);
-    Raise(max.z, z);
-    Lower(min.x, x);
-    Lower(min.y, y);
-    Lower(min.z, z);
+    detail::Raise(max.x, x);
+    detail::Raise(max.y, y);
+    detail::Raise(max.z, z);
+    detail::Lower(min.x, x);
+    detail::Lower(min.y, y);
+    detail::Lower(min.z, z);
     return *this;
 }
 
@@ -174,8 +174,8 @@ constexpr AABBox3D<T> const& AABBox3D<T>::Repair() {
 
 template <class T>
 constexpr int AABBox3D<T>::IsEmpty() const {
-    return Abs(min.x - max.x) < kContactTolerance && Abs(min.y - max.y) < kContactTolerance &&
-           Abs(min.z - max.z) < kContactTolerance;
+    return Abs(min.x - max.x) < detail::kContactTolerance && Abs(min.y - max.y) < detail::kContactTolerance &&
+           Abs(min.z - max.z) < detail::kContactTolerance;
 }
 
 template <class T>

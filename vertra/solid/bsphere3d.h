@@ -78,7 +78,7 @@ constexpr BSphere3D<T> const& BSphere3D<T>::Add(AABBox3D<T> const& box) {
 template <class T>
 constexpr BSphere3D<T> const& BSphere3D<T>::Add(BSphere3D const& other) {
     T const reach = GetDistanceBetween(center, other.center) + other.radius;
-    Raise(radius, reach);
+    detail::Raise(radius, reach);
     return *this;
 }
 

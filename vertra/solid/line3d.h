@@ -118,7 +118,7 @@ constexpr Vec4D<T> GetClosestPoint(Line3D<T> const& line, Vec4D<T> const& point)
     Vec4D<T> const d = line.end - line.start;
     T const length = Len(d);
     Vec4D<T> const direction = d / length;
-    T const t = direction * (point - line.start);
+    T const t = detail::Dot3(direction, point - line.start);
     if (0 > t) return line.start;
     if (t > length) return line.end;
     return line.start + direction * t;

@@ -168,8 +168,8 @@ constexpr Plane3D<T> const& Plane3D<T>::NormalizePlane() {
 template <class T>
 constexpr EINTERSECTION_RELATION Plane3D<T>::ClassifyPoint(Vec4D<T> const& p) const {
     T const s = Distance(p);
-    if (s < -kContactTolerance) return EIR_BEHIND;
-    if (s > kContactTolerance) return EIR_IN_FRONT;
+    if (s < -detail::kContactTolerance) return EIR_BEHIND;
+    if (s > detail::kContactTolerance) return EIR_IN_FRONT;
     return EIR_ON_PLANE;
 }
 

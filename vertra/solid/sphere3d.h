@@ -102,7 +102,7 @@ constexpr int Sphere3D<T>::Intersects(Vec4D<T> const& origin, Vec4D<T> const& di
     Vec4D<T> const q = center - origin;
     T const v = detail::Dot3(direction, q);
     T const discriminant = (radius * radius - Len2(q)) + v * v;
-    if (-kContactTolerance > discriminant) return 0;
+    if (-detail::kContactTolerance > discriminant) return 0;
     hit = origin + direction * (v - detail::SweepRoot(discriminant));
     return 1;
 }
@@ -113,9 +113,9 @@ constexpr T Collides(Sphere3D<T> const& a, Vec4D<T> const& velocityA, Sphere3D<T
     Vec4D<T> const apart = a.center - b.center;
     T const reach = a.radius + b.radius;
     if (reach * reach > Len2(apart)) return T(0);
-    T const p = (velocityB - velocityA) * apart;
+    T const p = detail::Dot3(velocityB - velocityA, apart);
     T const discriminant = p * p + reach * reach - Len2(apart);
-    if (-kContactTolerance > discriminant) return T(-1);
+    if (-detail::kContactTolerance > discriminant) return T(-1);
     return p - detail::SweepRoot(discriminant);
 }
 

@@ -147,7 +147,7 @@ constexpr int IsInsideTriangleFast(Triangle3D<T> const& triangle, Vec4D<T> const
     T const x = d * c - e * b;
     T const y = e * a - d * b;
     T const z = x + y - (a * c - b * b);
-    return SignBit(z) & ~(SignBit(x) | SignBit(y));
+    return detail::SignBit(z) & ~(detail::SignBit(x) | detail::SignBit(y));
 }
 
 template <class T>

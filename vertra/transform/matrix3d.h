@@ -263,7 +263,7 @@ constexpr Matrix3D<T> const& Matrix3D<T>::Frustum(T left, T right, T bottom, T t
 
 template <class T>
 constexpr Matrix3D<T> const& Matrix3D<T>::Left() {
-    for (int e = 8; e < 12; ++e) m[e] = Negate(m[e]);
+    for (int e = 8; e < 12; ++e) m[e] = detail::Negate(m[e]);
     return *this;
 }
 
@@ -377,7 +377,7 @@ constexpr Matrix3D<T> operator-(Matrix3D<T> const& a, Matrix3D<T> const& b) {
 template <class T>
 constexpr Matrix3D<T> operator-(Matrix3D<T> const& a) {
     Matrix3D<T> result = a;
-    for (T& element : result.m) element = Negate(element);
+    for (T& element : result.m) element = detail::Negate(element);
     return result;
 }
 

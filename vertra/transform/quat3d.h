@@ -100,7 +100,7 @@ constexpr Vec4D<T> operator*(Quat3D<T> const& q, Vec4D<T> const& v);
 /// (w, -x, -y, -z); in float a +0 stays +0.
 template <class T>
 constexpr Quat3D<T> Conj(Quat3D<T> const& q) {
-    return Quat3D<T>(Negate(q.x), Negate(q.y), Negate(q.z), q.w);
+    return Quat3D<T>(detail::Negate(q.x), detail::Negate(q.y), detail::Negate(q.z), q.w);
 }
 /// The inverse of a unit quaternion: Conj(q).
 template <class T>
