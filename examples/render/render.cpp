@@ -99,7 +99,9 @@ int main(int argc, char** argv) {
     int side = 1;
     int threads = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     options.AddTo(app);
-    app.add_option("--output", output, "The picture, a PNG file")->capture_default_str();
+    app.add_option("--output", output, "The picture, a PNG file")
+        ->check([](std::string const& path) { return path.empty() ? "needs a name" : ""; })
+        ->capture_default_str();
     app.add_flag("--flat", isFlat, "Show the triangles as they are instead of smoothing them");
     app.add_option("--samples", side,
                    "The root of the number of rays a pixel: 3 smooths edges with 9 of them")

@@ -1,12 +1,12 @@
 #include "render/scene.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace example {
 namespace {
 
 using vertra::Line3D;
-using vertra::Triangle3D;
 using vertra::Vec4D;
 
 /// The triangle's normal times the sine of its angle at a. The sides come to unit length first: the square of
@@ -31,10 +31,14 @@ std::vector<Vec4D<double>> VertexNormals(Mesh const& mesh) {
 
 }  // namespace
 
-Scene::Scene(Mesh const& mesh, bool isFlat, Material const& material, std::vector<Light> const& lights,
+Scene::Scene(Mesh mesh, bool isFlat, Material const& material, std::vector<Light> lights,
              Color const& background)
-    : mesh_(mesh), tree_(mesh.triangles), material_(material), lights_(lights), background_(background) {
-    if (!isFlat) normals_ = VertexNormals(mesh);
+    : mesh_(std::move(mesh)),
+      tree_(mesh_.triangles),
+      material_(material),
+      lights_(std::move(lights)),
+      background_(background) {
+    if (!isFlat) normals_ = VertexNormals(mesh_);
 }
 
 Vec4D<double> Scene::NormalAt(Tree::Hit const& hit) const {

@@ -13,7 +13,7 @@ namespace example {
 /// A mesh under lights.
 class Scene {
 public:
-    Scene(Mesh const& mesh, bool isFlat, Material const& material, std::vector<Light> const& lights,
+    Scene(Mesh mesh, bool isFlat, Material const& material, std::vector<Light> lights,
           Color const& background);
 
     /// The colour in which the start of the segment sees whatever the segment meets first.

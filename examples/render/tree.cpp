@@ -1,6 +1,7 @@
 #include "render/tree.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 
 namespace example {
@@ -12,24 +13,12 @@ using vertra::Vec4D;
 
 namespace {
 
-constexpr std::size_t kMostInLeaf = 4;
-
-/// The longest axis of the box.
-int LongestAxis(AABBox3D<double> const& box) {
-    Vec4D<double> const extent = box.GetExtent();
-    double const* const begin = extent;
-    return static_cast<int>(std::max_element(begin, begin + 3) - begin);
-}
-
-}  // namespace
-
-/// A segment in the two forms that triangles and boxes are asked in, and what it has met so far.
-struct Tree::Probe {
+/// A segment in the two forms that triangles and boxes are asked in.
+struct Probe {
     Line3D<double> sight;
     Vec4D<double> direction;
     Vec4D<double> middle;
     double halfLength = 0;
-    std::optional<std::size_t> nearest;  // in the order of the leaves
 
     explicit Probe(Line3D<double> const& sight_)
         : sight(sight_), direction(Normalize(sight.end - sight.start)) {
@@ -44,67 +33,74 @@ struct Tree::Probe {
     }
 };
 
-Tree::Tree(std::vector<Triangle3D<double>> const& triangles) : order_(triangles.size()) {
-    std::vector<Vec4D<double>> centers;
-    for (auto const& triangle : triangles) {
-        auto const& [a, b, c] = triangle.vertex;
-        centers.emplace_back((a + b + c) / 3);
-    }
-    triangles_ = triangles;
-    std::iota(order_.begin(), order_.end(), std::size_t(0));
-    Grow(centers, 0, triangles.size());
-    for (std::size_t i = 0; i < order_.size(); ++i) triangles_[i] = triangles[order_[i]];
+Vec4D<double> Center(Triangle3D<double> const& triangle) {
+    auto const& [a, b, c] = triangle.vertex;
+    return (a + b + c) / 3;
 }
 
-/// Makes the nodes over a range of order_, which it sorts, and returns the topmost.
-std::size_t Tree::Grow(std::vector<Vec4D<double>> const& centers, std::size_t first, std::size_t last) {
-    auto const at = [&](std::size_t i) { return order_.begin() + static_cast<std::ptrdiff_t>(i); };
-    AABBox3D<double> spread;
-    Node node;
-    for (std::size_t i = first; i < last; ++i) {
-        for (Vec4D<double> const& vertex : triangles_[order_[i]].vertex) node.box.Add(vertex);
-        spread.Add(centers[order_[i]]);
+int LongestAxis(AABBox3D<double> const& box) {
+    Vec4D<double> const extent = box.GetExtent();
+    int const axis = extent.x < extent.y ? 1 : 0;
+    return extent[axis] < extent.z ? 2 : axis;
+}
+
+}  // namespace
+
+Tree::Tree(std::vector<Triangle3D<double>> const& triangles) : order_(triangles.size()) {
+    std::iota(order_.begin(), order_.end(), std::size_t(0));
+    nodes_.push_back({.box = {}, .first = 0, .last = triangles.size()});
+    for (std::size_t i = 0; i < nodes_.size(); ++i) Grow(i, triangles);
+    for (std::size_t const number : order_) triangles_.push_back(triangles[number]);
+}
+
+/// Gives the node its box and, if it is to be no leaf, two children that share its triangles.
+void Tree::Grow(std::size_t index, std::vector<Triangle3D<double>> const& triangles) {
+    constexpr std::size_t kMostInLeaf = 4;  // ours
+    Node& node = nodes_[index];
+    auto const at = [this](std::size_t i) { return order_.begin() + static_cast<std::ptrdiff_t>(i); };
+    AABBox3D<double> centers;
+    for (std::size_t i = node.first; i < node.last; ++i) {
+        auto const& triangle = triangles[order_[i]];
+        for (Vec4D<double> const& vertex : triangle.vertex) node.box.Add(vertex);
+        centers.Add(Center(triangle));
     }
-    node.first = first;
-    node.axis = LongestAxis(spread);
-    bool const isLeaf = last - first <= kMostInLeaf;
-    if (isLeaf) node.count = last - first;
+    if (node.last - node.first <= kMostInLeaf) return;
 
-    std::size_t const index = nodes_.size();
-    nodes_.push_back(node);
-    if (isLeaf) return index;
-
+    int const axis = LongestAxis(centers);
+    std::size_t const first = node.first;
+    std::size_t const last = node.last;
     std::size_t const middle = first + (last - first) / 2;
     std::nth_element(at(first), at(middle), at(last), [&](std::size_t a, std::size_t b) {
-        return centers[a][node.axis] < centers[b][node.axis];
+        return Center(triangles[a])[axis] < Center(triangles[b])[axis];
     });
-    Grow(centers, first, middle);
-    std::size_t const second = Grow(centers, middle, last);
-    nodes_[index].second = second;
-    return index;
+    node.axis = axis;
+    node.children = nodes_.size();
+    nodes_.push_back({.box = {}, .first = first, .last = middle});  // moves the node
+    nodes_.push_back({.box = {}, .first = middle, .last = last});
 }
 
 std::optional<Tree::Hit> Tree::FirstHit(Line3D<double> const& sight) const {
     Probe probe(sight);
-    Search(0, probe);
-    if (!probe.nearest) return std::nullopt;
-    return Hit{order_[*probe.nearest], probe.sight.end};
-}
-
-void Tree::Search(std::size_t index, Probe& probe) const {
-    Node const& node = nodes_[index];
-    if (!node.box.Intersects(probe.middle, probe.direction, probe.halfLength)) return;
-    for (std::size_t i = node.first; i < node.first + node.count; ++i) {
-        Vec4D<double> point;
-        if (triangles_[i].Intersects(probe.sight, point)) {
-            probe.nearest = i;
+    std::optional<std::size_t> nearest;
+    std::array<std::size_t, 64> waiting = {0};  // a child has half of the triangles: no tree is deeper
+    for (std::size_t count = 1; count > 0;) {
+        Node const& node = nodes_[waiting[--count]];
+        if (!node.box.Intersects(probe.middle, probe.direction, probe.halfLength)) continue;
+        if (node.children != 0) {
+            std::size_t const nearer = probe.direction[node.axis] < 0 ? 1 : 0;
+            waiting[count++] = node.children + 1 - nearer;
+            waiting[count++] = node.children + nearer;
+            continue;
+        }
+        for (std::size_t i = node.first; i < node.last; ++i) {
+            Vec4D<double> point;
+            if (!triangles_[i].Intersects(probe.sight, point)) continue;
+            nearest = i;
             probe.EndAt(point);  // from now on only a nearer triangle can be hit
         }
     }
-    if (node.count > 0) return;
-    bool const isBackwards = probe.direction[node.axis] < 0;
-    Search(isBackwards ? node.second : index + 1, probe);
-    Search(isBackwards ? index + 1 : node.second, probe);
+    if (!nearest) return std::nullopt;
+    return Hit{order_[*nearest], probe.sight.end};
 }
 
 }  // namespace example

@@ -26,19 +26,17 @@ public:
 private:
     struct Node {
         vertra::AABBox3D<double> box;
-        std::size_t first = 0;   ///< a leaf's triangles begin here,
-        std::size_t count = 0;   ///< so many; none in a branch
-        std::size_t second = 0;  ///< a branch's second child; the first one is the next node
-        int axis = 0;            ///< along which the second child lies behind the first
+        std::size_t first;         ///< its triangles run from here
+        std::size_t last;          ///< to before here
+        std::size_t children = 0;  ///< the first of two that follow each other; 0 for a leaf
+        int axis = 0;              ///< along which the second lies behind the first
     };
-    struct Probe;
 
-    std::vector<Node> nodes_;                            // each before its children
+    std::vector<Node> nodes_;                            // the root first
     std::vector<std::size_t> order_;                     // the triangles' numbers, leaf by leaf
     std::vector<vertra::Triangle3D<double>> triangles_;  // in this order
 
-    std::size_t Grow(std::vector<vertra::Vec4D<double>> const& centers, std::size_t first, std::size_t last);
-    void Search(std::size_t index, Probe& probe) const;
+    void Grow(std::size_t index, std::vector<vertra::Triangle3D<double>> const& triangles);
 };
 
 }  // namespace example
