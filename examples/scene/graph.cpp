@@ -14,21 +14,34 @@
 #include <initializer_list>
 #include <iterator>
 #include <numbers>
-#include <set>
 #include <sstream>
 #include <string_view>
 
 namespace example {
 namespace {
 
-using Json = nlohmann::json;
 using vertra::Matrix3D;
 using vertra::Vec4D;
 
 constexpr int kMostLevels = 5000;  // safe for a keel::SmartTreeVector in every build
 
 /// The text as JSON has it, on one line whatever is in it.
-std::string Quoted(std::string const& text) { return Json(text).dump(); }
+std::string Quoted(std::string const& text) { return nlohmann::json(text).dump(); }
+
+/// An object of JSON, which the parser fills by []. A map would let the last of two equal keys win.
+template <class Key, class Value, class... Rest>
+class UniqueKeys  // NOLINT(misc-no-recursion): copied as deep as JSON is
+    : public std::map<Key, Value, Rest...> {
+public:
+    using std::map<Key, Value, Rest...>::map;
+    Value& operator[](Key const& key) {
+        auto const [entry, isNew] = this->try_emplace(key);
+        if (!isNew) throw Error("the key " + Quoted(key) + " stands twice in one object");
+        return entry->second;
+    }
+};
+
+using Json = nlohmann::basic_json<UniqueKeys>;
 
 /// What the parser says, without the names and numbers that come first.
 std::string Reason(std::string_view message) {
@@ -45,15 +58,6 @@ Json ReadJson(std::string const& path) {
     std::stringstream text;
     if (!(text << file.rdbuf())) throw Error(path + ": is empty, or cannot be read");
 
-    std::vector<std::set<std::string>> open;  // the keys so far of each object that is open
-    auto const refuseRepeatedKeys = [&open](int, Json::parse_event_t event, Json const& parsed) {
-        if (event == Json::parse_event_t::object_start) open.emplace_back();
-        if (event == Json::parse_event_t::object_end) open.pop_back();
-        if (event == Json::parse_event_t::key && !open.back().insert(parsed.get<std::string>()).second) {
-            throw Error("the key " + parsed.dump() + " stands twice in one object");
-        }
-        return true;
-    };
     auto const place = [&path, &text] {  // the line of the last character that was read
         auto const read = text.rdbuf()->pubseekoff(0, std::ios::cur, std::ios::in);
         auto const lines =
@@ -61,7 +65,7 @@ Json ReadJson(std::string const& path) {
         return path + ":" + std::to_string(lines + 1) + ": ";
     };
     try {
-        return Json::parse(text, refuseRepeatedKeys);
+        return Json::parse(text);
     } catch (Json::exception const& error) {
         throw Error(place() + Reason(error.what()));
     } catch (Error const& error) {

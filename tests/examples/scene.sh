@@ -39,12 +39,12 @@ chain() {
 chain 5000 >deep.json && prints "as deep as it goes" '\s+5000 +meshes.*' deep.json
 chain 5001 >deep.json && refuses "deeper" 'deep.json: node "5000": children: there are more than 5000' deep.json
 
-many=$(printf '[%.0s' {1..100000})
+open=$(printf '[%.0s' {1..100000}) close=$(printf ']%.0s' {1..100000})
 while IFS='|' read -r what words content; do
     printf '%b' "$content" >bad.json
     refuses "$what" "bad.json:$words" bad.json
 done <<END
-many brackets| node "a": children: needs|$n "a": {"children": [$many${many//[/]}]}}}
+many brackets| node "a": children: needs|$n "a": {"children": [$open$close]}}}
 NaN|2: syntax error|$n\n"a": {"translate": [NaN, 0, 0]}}}
 infinity once it is read|2: number overflow|$n\n"a": {"translate": [1e999\n, 0, 0]}}}
 one name for two nodes|2: the key "a" stands twice|$n "a": {},\n"a": {}}}
