@@ -68,7 +68,7 @@ private:
         auto const withExponent = [&](std::uint64_t biased) {
             std::uint64_t const sign = word << 3 & kSign;
             return std::bit_cast<T>(
-                static_cast<detail::Bits<T>>(sign | biased << kExponent | (word >> 8 & kMantissa)));
+                static_cast<vertra::detail::Bits<T>>(sign | biased << kExponent | (word >> 8 & kMantissa)));
         };
         switch (kind) {
             case 0: return static_cast<T>(number % 65 - 32) / 8;              // eighths: sums are exact
@@ -76,7 +76,7 @@ private:
             case 2: return static_cast<T>(number & 0xFFFF) / 32768 - T(0.5);  // around 0 to 1
             case 3: return withExponent(kBias - 4 + (word & 7));              // around 1
             case 4: return withExponent((center & kBias) + kBias / 2 + (word & 3));  // alike, and far from 1
-            case 5: return std::bit_cast<T>(static_cast<detail::Bits<T>>(word));             // any pattern
+            case 5: return std::bit_cast<T>(static_cast<vertra::detail::Bits<T>>(word));  // any pattern
             default:
                 return (word & 3) == 0 ? Special<T>(word >> 40) : withExponent(kBias - 2 + (word >> 2 & 3));
         }
@@ -105,7 +105,7 @@ public:
     [[gnu::noinline]] void Scalars(T const* scalars, std::size_t count) {
         for (; count > 0; --count, ++scalars) {
             bool const isNumber = *scalars == *scalars;  // the sign and payload of a NaN differ by processor
-            Add(isNumber ? std::bit_cast<detail::Bits<T>>(*scalars) : ~std::uint64_t(0));
+            Add(isNumber ? std::bit_cast<vertra::detail::Bits<T>>(*scalars) : ~std::uint64_t(0));
             if (print) std::printf(isNumber ? " %.17g" : " nan", static_cast<double>(*scalars));
         }
     }
