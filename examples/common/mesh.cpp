@@ -7,7 +7,6 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string_view>
@@ -64,10 +63,7 @@ bool Check(std::string const& line, long long& vertices) {
 
 /// The lines of vertices and faces, checked; all others are left blank.
 std::stringstream ReadChecked(std::string const& path) {
-    if (!std::filesystem::exists(path)) throw Error(path + ": there is no such file");
-    if (!std::filesystem::is_regular_file(path)) throw Error(path + ": is not a file");
-    std::ifstream file(path);
-    if (!file) throw Error(path + ": cannot be opened");
+    std::ifstream file = Open(path);
     std::stringstream checked;
     std::string line;
     long long vertices = 0;

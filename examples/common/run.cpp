@@ -1,9 +1,18 @@
 #include "common/run.h"
 
 #include <exception>
+#include <filesystem>
 #include <iostream>
 
 namespace example {
+
+std::ifstream Open(std::string const& path) {
+    if (!std::filesystem::exists(path)) throw Error(path + ": there is no such file");
+    if (!std::filesystem::is_regular_file(path)) throw Error(path + ": is not a file");
+    std::ifstream file(path);
+    if (!file) throw Error(path + ": cannot be opened");
+    return file;
+}
 
 int Run(CLI::App& app, int argc, char** argv, std::function<void()> const& work) {
     try {

@@ -51,10 +51,7 @@ std::string Reason(std::string_view message) {
 }
 
 Json ReadJson(std::string const& path) {
-    if (!std::filesystem::exists(path)) throw Error(path + ": there is no such file");
-    if (!std::filesystem::is_regular_file(path)) throw Error(path + ": is not a file");
-    std::ifstream const file(path);
-    if (!file) throw Error(path + ": cannot be opened");
+    std::ifstream const file = Open(path);
     std::stringstream text;
     if (!(text << file.rdbuf())) throw Error(path + ": is empty, or cannot be read");
 
