@@ -6,7 +6,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <deque>
 #include <functional>
 #include <iostream>
@@ -23,6 +25,14 @@ void RegisterVector();
 void RegisterSolid();
 void RegisterSphere();
 void RegisterPlanar();
+void RegisterArrays();
+
+/// Whether the callers are optimised; latency and large arrays say nothing where they are not.
+#ifdef __OPTIMIZE__
+inline constexpr bool kOptimised = true;
+#else
+inline constexpr bool kOptimised = false;
+#endif
 
 /// What an operation on single values is timed over: few enough for the first cache.
 inline constexpr int kInputs = 256;
@@ -33,6 +43,10 @@ BENCHMARK_ALWAYS_INLINE inline void Consume(Value const& value) {
     Value const* const address = &value;
     benchmark::DoNotOptimize(address);
 }
+
+/// Of a peer that has float alone.
+template <class T>
+inline constexpr bool kFloat = std::is_same_v<T, float>;
 
 /// Values that live until the program ends, since the operations run after they were registered.
 template <class Value>
@@ -69,6 +83,35 @@ private:
     std::uniform_real_distribution<T> distribution_{-1, 1};
 };
 
+/// A pass over all calls of one library's form of an operation, for who counts its instructions.
+struct Pass {
+    std::string name;
+    int calls;
+    std::function<void()> run;
+};
+inline std::vector<Pass>& Passes() {
+    static std::vector<Pass> passes;
+    return passes;
+}
+
+/// Some bits of a result, read where Consume has put it: of the first and the last of its first `scalars`
+/// scalars.
+template <class T, class Result>
+BENCHMARK_ALWAYS_INLINE inline int SomeBits(Result const& result, int scalars) {
+    if constexpr (std::is_arithmetic_v<Result>) {
+        int bits = 0;
+        std::memcpy(&bits, &result, std::min(sizeof(bits), sizeof(result)));
+        return bits;
+    } else {
+        auto const* const bytes = reinterpret_cast<char const*>(&result);
+        int first = 0;
+        int last = 0;
+        std::memcpy(&first, bytes, sizeof(first));
+        std::memcpy(&last, bytes + sizeof(T) * static_cast<std::size_t>(scalars - 1), sizeof(last));
+        return first | last;
+    }
+}
+
 /// A row of the table over T. The library that joins first sets the results; one that joins later and gives
 /// others ends the program.
 template <class T>
@@ -89,19 +132,52 @@ public:
     template <class Body, class ToOurs = std::identity>
     void Add(std::string const& library, Body body, int elements = 1, ToOurs toOurs = {}) {
         Check(library, [&](int i) { return toOurs(body(i)); });
-        auto const run = [body, calls = calls_, elements](benchmark::State& state) {
-            for (auto _ : state) {
-                for (int i = 0; i < calls; ++i) {
-                    auto const result = body(i);
-                    Consume(result);
-                }
-            }
-            state.SetItemsProcessed(state.iterations() * calls * elements);
-        };
-        benchmark::RegisterBenchmark((name_ + '/' + library).c_str(), run);
+        std::string const form = name_ + '/' + library;
+        auto const independent = [body, calls = calls_] { Independent(body, calls); };
+        Register(form + "/throughput", independent, elements);
+        Passes().push_back({form, calls_ * elements, independent});
+        if (kOptimised && elements == 1) {
+            auto const chained = [body, calls = calls_, scalars = scalars_] {
+                Chained(body, calls, scalars);
+            };
+            Register(form + "/latency", chained, elements);
+        }
     }
 
 private:
+    template <class Run>
+    void Register(std::string const& name, Run run, int elements) {
+        auto const timed = [run, items = calls_ * elements](benchmark::State& state) {
+            for (auto _ : state) run();
+            state.SetItemsProcessed(state.iterations() * items);
+        };
+        benchmark::RegisterBenchmark(name.c_str(), timed);
+    }
+
+    /// Calls that know nothing of each other: the processor works on several at once.
+    template <class Body>
+    [[gnu::noinline]] static void Independent(Body body, int calls) {
+        for (int i = 0; i < calls; ++i) {
+            auto const result = body(i);
+            Consume(result);
+        }
+    }
+
+    /// Each call waits for the result before: that makes the next index, by adding some of its bits under a
+    /// mask which is zero but which the compiler does not know.
+    template <class Body>
+    [[gnu::noinline]] static void Chained(Body body, int calls, int scalars) {
+        int zero = 0;
+        benchmark::DoNotOptimize(zero);
+        int const mask = zero;
+        int next = 0;
+        for (int i = 0; i < calls; ++i) {
+            auto result = body(i + next);
+            Consume(result);
+            next = SomeBits<T>(result, scalars) & mask;
+        }
+    }
+
     template <class Body>
     void Check(std::string const& library, Body const& body) {
         bool const first = expected_.empty();

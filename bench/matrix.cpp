@@ -43,6 +43,8 @@ void Register() {
              auto const* const ep = As<EigenVector>(p, kInputs);)
     IF_IMATH(auto const* const im = As<Imath::Matrix44<T>>(m, kInputs + 1);
              auto const* const ip = As<Imath::Vec4<T>>(p, kInputs);)
+    IF_CGLM(auto* const cm = Writable(As<CglmMatrix>(m, kInputs + 1));
+            auto* const cp = Writable(As<CglmVec4>(p, kInputs));)
 
     Operation<T> product("matrix product", kInputs, 16, 1e-6);
     product.Add("vertra", [=](int i) { return m[i] * m[i + 1]; });
@@ -50,6 +52,11 @@ void Register() {
     IF_GLM(product.Add("glm aligned", [=](int i) { return am[i + 1] * am[i]; });)
     IF_EIGEN(product.Add("Eigen", [=](int i) -> EigenMatrix { return em[i + 1] * em[i]; });)
     IF_IMATH(product.Add("Imath", [=](int i) { return im[i] * im[i + 1]; });)
+    IF_CGLM(if constexpr (kFloat<T>) product.Add("cglm", [=](int i) {
+        CglmMatrix result;
+        CGLM(mat4_mul)(cm[i + 1].m, cm[i].m, result.m);
+        return result;
+    });)
 
     // The peers compute the fourth component as well, which with us is 0.
     Operation<T> point("point by matrix", kInputs, 3, 1e-6);
@@ -58,14 +65,29 @@ void Register() {
     IF_GLM(point.Add("glm aligned", [=](int i) { return am[i] * ap[i]; });)
     IF_EIGEN(point.Add("Eigen", [=](int i) -> EigenVector { return em[i] * ep[i]; });)
     IF_IMATH(point.Add("Imath", [=](int i) { return ip[i] * im[i]; });)
+    IF_CGLM(if constexpr (kFloat<T>) point.Add("cglm", [=](int i) {
+        CglmVec4 result;
+        CGLM(mat4_mulv)(cm[i].m, cp[i].v, result.v);
+        return result;
+    });)
 
-    // Imath eliminates with pivots, as we do; glm and Eigen take cofactors.
+    // The others but Imath take cofactors: less work, and badly scaled matrices are lost.
     Operation<T> inverse("inverse", kInputs, 16, 1e-4);
     inverse.Add("vertra", [=](int i) { return Invert(m[i]); });
     IF_GLM(inverse.Add("glm packed", [=](int i) { return glm::inverse(gm[i]); });)
     IF_GLM(inverse.Add("glm aligned", [=](int i) { return glm::inverse(am[i]); });)
     IF_EIGEN(inverse.Add("Eigen", [=](int i) -> EigenMatrix { return em[i].inverse(); });)
     IF_IMATH(inverse.Add("Imath", [=](int i) { return im[i].inverse(); });)
+    IF_CGLM(if constexpr (kFloat<T>) inverse.Add("cglm", [=](int i) {
+        CglmMatrix result;
+        CGLM(mat4_inv)(cm[i].m, result.m);
+        return result;
+    });)
+
+    Operation<T> pivoting("inverse with pivots", kInputs, 16, 1e-4);
+    pivoting.Add("vertra", [=](int i) { return Invert(m[i]); });
+    IF_EIGEN(pivoting.Add("Eigen", [=](int i) -> EigenMatrix { return em[i].partialPivLu().inverse(); });)
+    IF_IMATH(pivoting.Add("Imath", [=](int i) { return im[i].gjInverse(); });)
 
     Operation<T> determinant("determinant", kInputs, 1, 1e-4);
     determinant.Add("vertra", [=](int i) { return Det(m[i]); });
@@ -73,6 +95,19 @@ void Register() {
     IF_GLM(determinant.Add("glm aligned", [=](int i) { return glm::determinant(am[i]); });)
     IF_EIGEN(determinant.Add("Eigen", [=](int i) { return em[i].determinant(); });)
     IF_IMATH(determinant.Add("Imath", [=](int i) { return im[i].determinant(); });)
+    IF_CGLM(if constexpr (kFloat<T>) determinant.Add("cglm", [=](int i) { return CGLM(mat4_det)(cm[i].m); });)
+
+    Operation<T> transpose("transpose", kInputs, 16, 1e-6);
+    transpose.Add("vertra", [=](int i) { return Transpose(m[i]); });
+    IF_GLM(transpose.Add("glm packed", [=](int i) { return glm::transpose(gm[i]); });)
+    IF_GLM(transpose.Add("glm aligned", [=](int i) { return glm::transpose(am[i]); });)
+    IF_EIGEN(transpose.Add("Eigen", [=](int i) -> EigenMatrix { return em[i].transpose(); });)
+    IF_IMATH(transpose.Add("Imath", [=](int i) { return im[i].transposed(); });)
+    IF_CGLM(if constexpr (kFloat<T>) transpose.Add("cglm", [=](int i) {
+        CglmMatrix result;
+        CGLM(mat4_transpose_to)(cm[i].m, result.m);
+        return result;
+    });)
 }
 
 }  // namespace

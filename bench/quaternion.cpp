@@ -29,6 +29,9 @@ struct ToOurs {
     IF_IMATH(template <class T> vertra::Quat3D<T> operator()(Imath::Quat<T> const& q) const {
         return {q.v.x, q.v.y, q.v.z, q.r};
     })
+    IF_CGLM(vertra::Quat3D<float> operator()(CglmVec4 const& q) const {
+        return {q.v[0], q.v[1], q.v[2], q.v[3]};
+    })
 };
 
 /// The same, of the two quaternions of a rotation the one with a positive w.
@@ -69,6 +72,12 @@ void Register() {
     IF_IMATH(auto const imath = [](Quat3D<T> const& a) { return Imath::Quat<T>(a.w, a.x, a.y, a.z); };
              auto const* const iq = peers(imath, false); auto const* const ic = peers(imath, true);
              auto const* const iv = As<Imath::Vec3<T>>(v, kInputs);)
+    IF_CGLM(auto const cglm =
+                [](Quat3D<T> const& a) {
+                    return CglmVec4{{float(a.x), float(a.y), float(a.z), float(a.w)}};
+                };
+            auto* const cq = Writable(peers(cglm, false)); auto* const cc = Writable(peers(cglm, true));
+            auto* const cv = Writable(As<CglmVec3>(v, kInputs));)
 
     ToOurs const toOurs;
     Operation<T> product("quaternion product", kInputs, 4, 1e-6);
@@ -80,20 +89,44 @@ void Register() {
     IF_EIGEN(product.Add(
         "Eigen", [=](int i) -> EigenQuat { return eq[i] * eq[i + 1]; }, 1, toOurs);)
     IF_IMATH(product.Add("Imath", [=](int i) { return iq[i] * iq[i + 1]; });)
+    IF_CGLM(if constexpr (kFloat<T>) product.Add(
+        "cglm",
+        [=](int i) {
+            CglmVec4 result;
+            CGLM(quat_mul)(cq[i].v, cq[i + 1].v, result.v);
+            return result;
+        },
+        1, toOurs);)
 
     Operation<T> turn("quaternion turns a vector", kInputs, 3, 1e-5);
     turn.Add("vertra", [=](int i) { return q[i] * v[i]; });
     IF_GLM(turn.Add("glm", [=](int i) { return gc[i] * gv[i]; });)
     IF_EIGEN(turn.Add("Eigen", [=](int i) -> EigenVector { return ec[i] * ev[i]; });)
     IF_IMATH(turn.Add("Imath", [=](int i) { return ic[i].rotateVector(iv[i]); });)
+    // It normalises the quaternion first; there is no form that does not.
+    IF_CGLM(if constexpr (kFloat<T>) turn.Add("cglm", [=](int i) {
+        CglmVec3 result;
+        CGLM(quat_rotatev)(cc[i].v, cv[i].v, result.v);
+        return result;
+    });)
 
     Operation<T> slerp("slerp", kInputs, 4, 1e-5);
-    slerp.Add("vertra", [=](int i) { return Slerp(q[i], q[i + 1], T(0.3), T(1e-6)); });
+    slerp.Add(
+        "vertra", [=](int i) { return Slerp(q[i], q[i + 1], T(0.3), T(1e-6)); }, 1, kPositive);
     IF_GLM(slerp.Add(
-        "glm", [=](int i) { return glm::slerp(gq[i], gq[i + 1], T(0.3)); }, 1, toOurs);)
+        "glm", [=](int i) { return glm::slerp(gq[i], gq[i + 1], T(0.3)); }, 1, kPositive);)
     IF_EIGEN(slerp.Add(
-        "Eigen", [=](int i) -> EigenQuat { return eq[i].slerp(T(0.3), eq[i + 1]); }, 1, toOurs);)
-    IF_IMATH(slerp.Add("Imath", [=](int i) { return Imath::slerpShortestArc(iq[i], iq[i + 1], T(0.3)); });)
+        "Eigen", [=](int i) -> EigenQuat { return eq[i].slerp(T(0.3), eq[i + 1]); }, 1, kPositive);)
+    IF_IMATH(slerp.Add(
+        "Imath", [=](int i) { return Imath::slerpShortestArc(iq[i], iq[i + 1], T(0.3)); }, 1, kPositive);)
+    IF_CGLM(if constexpr (kFloat<T>) slerp.Add(
+        "cglm",
+        [=](int i) {
+            CglmVec4 result;
+            CGLM(quat_slerp)(cq[i].v, cq[i + 1].v, 0.3F, result.v);
+            return result;
+        },
+        1, kPositive);)
 
     Operation<T> toMatrix("quaternion to matrix", kInputs, 16, 1e-6);
     toMatrix.Add("vertra", [=](int i) { return ToMatrix(q[i]); });
@@ -104,6 +137,11 @@ void Register() {
         return matrix;
     });)
     IF_IMATH(toMatrix.Add("Imath", [=](int i) { return ic[i].toMatrix44(); });)
+    IF_CGLM(if constexpr (kFloat<T>) toMatrix.Add("cglm", [=](int i) {
+        CglmMatrix result;
+        CGLM(quat_mat4)(cc[i].v, result.m);
+        return result;
+    });)
 
     std::vector<vertra::Matrix3D<T>> matrices;
     for (int i = 0; i < kInputs; ++i) matrices.push_back(ToMatrix(Conj(q[i])));
@@ -111,6 +149,7 @@ void Register() {
     IF_GLM(auto const* const gm = As<glm::mat<4, 4, T, glm::packed_highp>>(m, kInputs);)
     IF_EIGEN(auto const* const em = As<EigenMatrix>(m, kInputs);)
     IF_IMATH(auto const* const im = As<Imath::Matrix44<T>>(m, kInputs);)
+    IF_CGLM(auto* const cm = Writable(As<CglmMatrix>(m, kInputs));)
     Operation<T> fromMatrix("quaternion from matrix", kInputs, 4, 1e-5);
     fromMatrix.Add(
         "vertra", [=](int i) { return FromMatrix(m[i]); }, 1, kPositive);
@@ -120,6 +159,14 @@ void Register() {
         "Eigen", [=](int i) { return EigenQuat(em[i].template topLeftCorner<3, 3>()); }, 1, kPositive);)
     IF_IMATH(fromMatrix.Add(
         "Imath", [=](int i) { return Imath::extractQuat(im[i]); }, 1, kPositive);)
+    IF_CGLM(if constexpr (kFloat<T>) fromMatrix.Add(
+        "cglm",
+        [=](int i) {
+            CglmVec4 result;
+            CGLM(mat4_quat)(cm[i].m, result.v);
+            return result;
+        },
+        1, kPositive);)
 }
 
 }  // namespace

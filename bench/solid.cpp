@@ -5,6 +5,7 @@
 #include <vertra/solid/triangle3d.h>
 
 #include <array>
+#include <cstring>
 
 namespace {
 
@@ -21,6 +22,19 @@ struct Ready {
     Vec4D<T> middle, direction;
     T halfLength;
 };
+
+/// Our boxes as a peer's, which has the three components of each corner in a row.
+template <class Peer, class T>
+Peer const* Boxes(AABBox3D<T> const* ours, int count) {
+    std::vector<std::array<T, 6>> bounds;
+    for (auto const* box = ours; box != ours + count; ++box) {
+        bounds.push_back({box->min.x, box->min.y, box->min.z, box->max.x, box->max.y, box->max.z});
+    }
+    std::vector<Peer> peers(bounds.size());
+    std::memcpy(static_cast<void*>(peers.data()), bounds.data(), sizeof(Peer) * peers.size());
+    return Keep(std::move(peers));
+}
+IF_CGLM(struct CglmBox { vec3 v[2]; };)
 
 /// Boxes about the origin and segments that begin and end well outside, half of which hit. For such segments
 /// the peer's ray gives the same answer: Imath has no test of a segment. It tells the point of the hit as
@@ -71,52 +85,41 @@ void RegisterSegment() {
         "Imath", [=](int i) { return Imath::intersects(ib[i], Imath::Line3<T>(ie[i][0], ie[i][1])); });)
 }
 
-/// The six bounds of a box.
-template <class T, class Low, class High>
-std::array<T, 6> Bounds(Low const& low, High const& high) {
-    return {low[0], low[1], low[2], high[0], high[1], high[2]};
-}
-
+/// Boxes of which about half overlap the next, and points of which some lie inside.
 template <class T>
-void RegisterGrowth() {
+void RegisterBox() {
     Random<T> random;
-    std::vector<Vec4D<T>> points(kMany);
-    for (auto& point : points) point = random.Point();
+    std::vector<AABBox3D<T>> boxes;
+    std::vector<Vec4D<T>> points;
+    for (int i = 0; i <= kInputs; ++i) {
+        Vec4D<T> const center = random.Point();
+        Vec4D<T> const half = (random.Point() + Vec4D<T>(T(2))) * T(0.3);
+        boxes.emplace_back(center - half, center + half);
+        points.push_back(center + random.Point() * T(0.6));
+    }
+    auto const* const b = Keep(std::move(boxes));
     auto const* const p = Keep(std::move(points));
-    IF_EIGEN(auto const* const e3 = As<Eigen::Matrix<T, 3, 1>>(p, kMany);
-             auto const* const e4 = As<Eigen::Matrix<T, 4, 1>>(p, kMany);)
-    IF_IMATH(auto const* const ip = As<Imath::Vec3<T>>(p, kMany);)
+    int const count = kInputs + 1;
+    IF_EIGEN(using EigenBox = Eigen::AlignedBox<T, 3>; auto const* const eb = Boxes<EigenBox>(b, count);
+             auto const* const ep = As<Eigen::Matrix<T, 3, 1>>(p, count);)
+    IF_IMATH(using ImathBox = Imath::Box<Imath::Vec3<T>>; auto const* const ib = Boxes<ImathBox>(b, count);
+             auto const* const ip = As<Imath::Vec3<T>>(p, count);)
+    IF_CGLM(auto* const cb = Writable(Boxes<CglmBox>(b, count));
+            auto* const cp = Writable(As<CglmVec3>(p, count));)
 
-    Operation<T> growth("box growth", 1, 6, 0);
-    auto const ours = [=](int) {
-        AABBox3D<T> box;
-        for (int i = 0; i < kMany; ++i) box.Add(p[i]);
-        return Bounds<T>(box.min, box.max);
-    };
-    growth.Add("vertra", ours, kMany);
-#ifdef VERTRA_BENCH_EIGEN3
-    auto const eigen3 = [=](int) {
-        Eigen::AlignedBox<T, 3> box;
-        for (int i = 0; i < kMany; ++i) box.extend(e3[i]);
-        return Bounds<T>(box.min(), box.max());
-    };
-    growth.Add("Eigen three", eigen3, kMany);
-    // Four dimensions: more work than ours, but all of it side by side.
-    auto const eigen4 = [=](int) {
-        Eigen::AlignedBox<T, 4> box;
-        for (int i = 0; i < kMany; ++i) box.extend(e4[i]);
-        return Bounds<T>(box.min(), box.max());
-    };
-    growth.Add("Eigen four", eigen4, kMany);
-#endif
-#ifdef VERTRA_BENCH_IMATH
-    auto const imath = [=](int) {
-        Imath::Box<Imath::Vec3<T>> box;
-        for (int i = 0; i < kMany; ++i) box.extendBy(ip[i]);
-        return Bounds<T>(box.min, box.max);
-    };
-    growth.Add("Imath", imath, kMany);
-#endif
+    Operation<T> overlap("box against box", kInputs, 1, 0);
+    overlap.Add("vertra", [=](int i) { return b[i].Intersects(b[i + 1]); });
+    IF_EIGEN(overlap.Add("Eigen", [=](int i) { return eb[i].intersects(eb[i + 1]); });)
+    IF_IMATH(overlap.Add("Imath", [=](int i) { return ib[i].intersects(ib[i + 1]); });)
+    IF_CGLM(if constexpr (kFloat<T>)
+                overlap.Add("cglm", [=](int i) { return CGLM(aabb_aabb)(cb[i].v, cb[i + 1].v); });)
+
+    Operation<T> inside("point in box", kInputs, 1, 0);
+    inside.Add("vertra", [=](int i) { return b[i].IsInside(p[i]); });
+    IF_EIGEN(inside.Add("Eigen", [=](int i) { return eb[i].contains(ep[i]); });)
+    IF_IMATH(inside.Add("Imath", [=](int i) { return ib[i].intersects(ip[i]); });)
+    IF_CGLM(if constexpr (kFloat<T>)
+                inside.Add("cglm", [=](int i) { return CGLM(aabb_point)(cb[i].v, cp[i].v); });)
 }
 
 /// Small triangles about the origin, of which the ray hits one in a hundred. We and Imath tell the point of a
@@ -179,6 +182,23 @@ void RegisterTriangle() {
         return result;
     });
 #endif
+#ifdef VERTRA_BENCH_CGLM
+    if constexpr (kFloat<T>) {
+        std::vector<std::array<CglmVec3, 3>> cglmTriangles;
+        auto const corner = [](Vec4D<T> const& v) { return CglmVec3{{v.x, v.y, v.z}}; };
+        for (int i = 0; i < kMany; ++i) {
+            cglmTriangles.push_back({corner(t[i][0]), corner(t[i][1]), corner(t[i][2])});
+        }
+        auto* const c = Writable(Keep(std::move(cglmTriangles)));
+        ray.Add("cglm", [=, from = corner(from), along = corner(along)](int i) mutable {
+            float distance = 0;
+            bool const result =
+                CGLM(ray_triangle)(from.v, along.v, c[i][0].v, c[i][1].v, c[i][2].v, &distance);
+            Consume(distance);
+            return result;
+        });
+    }
+#endif
 }
 
 }  // namespace
@@ -186,8 +206,8 @@ void RegisterTriangle() {
 void RegisterSolid() {
     RegisterSegment<float>();
     RegisterSegment<double>();
-    RegisterGrowth<float>();
-    RegisterGrowth<double>();
+    RegisterBox<float>();
+    RegisterBox<double>();
     RegisterTriangle<float>();
     RegisterTriangle<double>();
 }

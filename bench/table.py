@@ -1,55 +1,182 @@
 #!/usr/bin/env python3
-"""Prints the tables of docs/performance.md from what vertra_bench and vertra_bench_debug have written."""
+"""Makes the tables of docs/performance.md and prints them, or writes them into a page.
 
-import json
+usage: bench/table.py RESULTS [PAGE]
+In the page, the table NAME stands between <!-- NAME --> and <!-- end of NAME -->.
+"""
+
+import os
+import re
 import statistics
 import sys
 
-PEERS = ["glm", "Eigen", "Imath"]
+from reasons import REASONS
+from results import PEERS, best, read_part, spread
+
+HEADER_ONLY = ["glm", "Eigen"]
+SLOWER = 1.5  # the target: release no slower than this many times the best peer,
+FASTER = 10   # debug at least so many times faster than the best header-only one
+DEBUG_COST = 2.5, 20  # and no slower than so many times release and so many nanoseconds
 
 
-def rows_of(report):
-    """{operation: {library: (nanoseconds, spread)}}, of each library its fastest form."""
-    times = {}
-    for run in report["benchmarks"]:
-        if run["run_type"] == "iteration":
-            times.setdefault(run["name"].split("/")[0], {}).setdefault(run["name"].split("/")[1], []).append(
-                1e9 / run["items_per_second"])
-    rows = {}
-    for operation, forms in times.items():
-        row = rows.setdefault(operation, {})
-        for form, values in forms.items():
-            low, median, high = statistics.quantiles(values, n=4)
-            library = form.split()[0]
-            row[library] = min(row.get(library, (float("inf"),)), (median, (high - low) / median))
-    return rows
+def lines_of(heading, columns, rows):
+    return [heading, "", "| " + " | ".join(columns) + " |", "|---|" + "--:|" * (len(columns) - 1),
+            *("| " + " | ".join(row) + " |" for row in rows)]
 
 
-def table_of(report, verdicts):
-    """verdicts: {heading: (peers, what of our time and their best to show)}"""
-    print(f"\n{report['context']['compiler']}, `{report['context']['flags']}`:\n")
-    print("| operation | vertra |", " | ".join(PEERS + list(verdicts)), "| spread |")
-    print("|---|" + "--:|" * (len(PEERS) + len(verdicts) + 2))
-    for operation, row in sorted(rows_of(report).items()):
-        cells = [f"{row[library][0]:.2f}" if library in row else "" for library in ["vertra"] + PEERS]
-        for peers, show in verdicts.values():
-            best = min((row[peer][0] for peer in peers if peer in row), default=None)
-            cells.append(show(row["vertra"][0], best) if best else "")
-        cells.append(f"{100 * max(spread for _, spread in row.values()):.0f} %")
-        print("|", operation, "|", " | ".join(cells), "|")
+def number(value, missed=False, digits=2):
+    text = f"{value:.{digits}f}"
+    return f"**{text}**" if missed else text
 
 
-def slower(ours, best):
-    """How many times our time is the best peer's; bold above 1.5."""
-    return f"**{ours / best:.2f}**" if ours > 1.5 * best else f"{ours / best:.2f}"
+def made_by(context):
+    return f"{context['processor']}, {context['compiler']}, `{context['flags']}`, {context['peers']}:"
 
 
-def faster(ours, best):
-    """How many times the best peer's time is ours; bold below 10."""
-    return f"**{best / ours:.1f}**" if best < 10 * ours else f"{best / ours:.1f}"
+def optimised(directory, part):
+    context, rows = read_part(directory, part)
+    if not rows:
+        return None
+    lines = []
+    for operation in sorted({operation for operation, _ in rows}):
+        row = rows[operation, "throughput"]
+        cells = [operation] + [number(row[name].nanoseconds) if name in row else "" for name in ["vertra"] + PEERS]
+        spreads = [spread(row)]
+        peer, _ = best(row)
+        ours = row["vertra"].nanoseconds
+        cells.append(number(ours / peer, ours > SLOWER * peer) if peer else "")
+        chained = rows.get((operation, "latency"))
+        if chained:
+            ours = chained["vertra"].nanoseconds
+            peer, name = best(chained)
+            spreads.append(spread(chained))
+            cells += [number(ours, digits=1)]
+            cells += [f"{number(peer, digits=1)} {name}", number(ours / peer)] if peer else ["", ""]
+        else:
+            cells += ["", "", ""]
+        cells.append(f"{100 * max(spreads):.0f} %")
+        lines.append(cells)
+    columns = ["operation", "vertra", *PEERS, "ours / best", "latency: vertra", "best peer", "ours / best", "spread"]
+    return lines_of(made_by(context), columns, lines)
 
 
-optimised, unoptimised = (json.load(open(name)) for name in sys.argv[1:])
-print("Peers:", optimised["context"]["peers"])
-table_of(optimised, {"ours / best peer": (PEERS, slower)})
-table_of(unoptimised, {"glm or Eigen / ours": (["glm", "Eigen"], faster), "Imath / ours": (["Imath"], faster)})
+def unoptimised(directory, part):
+    context, rows = read_part(directory, part)
+    _, release = read_part(directory, "release")
+    if not rows:
+        return None
+    lines = []
+    ratios = []
+    for operation, kind in sorted(rows):
+        row = rows[operation, kind]
+        ours = row["vertra"].nanoseconds
+        cells = [operation]
+        if (operation, kind) in release:
+            optimised_time = release[operation, kind]["vertra"].nanoseconds
+            cells += [number(optimised_time), number(ours, ours > DEBUG_COST[0] * optimised_time + DEBUG_COST[1])]
+        else:
+            cells += ["", number(ours)]
+        cells += [number(row[name].nanoseconds) if name in row else "" for name in PEERS]
+        for peers in [HEADER_ONLY, ["Imath"], ["cglm"]]:
+            peer, _ = best(row, peers)
+            cells.append(number(peer / ours, peers == HEADER_ONLY and peer < FASTER * ours, 1) if peer else "")
+            if peer and peers == HEADER_ONLY:
+                ratios.append(peer / ours)
+        cells.append(f"{100 * spread(row):.0f} %")
+        lines.append(cells)
+    columns = ["operation", "vertra at -O3", "vertra", *PEERS, "glm or Eigen / ours", "Imath / ours", "cglm / ours",
+               "spread"]
+    summary = (f"{made_by(context)} {len(ratios)} rows beside a header-only peer, "
+               f"the median {statistics.median(ratios):.1f} times faster, the least {min(ratios):.1f}.")
+    return lines_of(summary, columns, lines)
+
+
+def instruction_counts(directory):
+    """{operation: {library: instructions of its leanest form}}"""
+    counts = {}
+    path = f"{directory}/instructions.txt"
+    if os.path.exists(path):
+        with open(path) as file:
+            for line in file:
+                count, name = line.strip().split(" ", 1)
+                operation, form = name.split("/")
+                row = counts.setdefault(operation, {})
+                row[form.split()[0]] = min(float(count), row.get(form.split()[0], float("inf")))
+    return counts
+
+
+def losses(directory):
+    """A line for each operation that misses a target."""
+    missed = {}
+    for part in ["release", "native", "debug-g++", "debug-clang++"]:
+        for (operation, kind), row in read_part(directory, part)[1].items():
+            ours = row["vertra"].nanoseconds
+            if part.startswith("debug"):
+                peer, _ = best(row, HEADER_ONLY)
+                ratio = peer and peer / ours
+                bad = peer and ratio < FASTER
+            else:
+                peer, _ = best(row)
+                ratio = peer and ours / peer
+                bad = peer and ratio > SLOWER
+            if bad and kind == "throughput":
+                name, scalar = operation.rsplit(", ", 1)
+                missed.setdefault(name, {}).setdefault(part, []).append(f"{ratio:.1f} {scalar}")
+    counts = instruction_counts(directory)
+    lines = []
+    for name, parts in sorted(missed.items()):
+        where = "; ".join(f"{part}: {', '.join(sorted(ratios))}" for part, ratios in parts.items())
+        counted = []
+        for scalar in ["float", "double"]:
+            row = counts.get(f"{name}, {scalar}", {})
+            peers = [f"{row[peer]:.0f} {peer}" for peer in PEERS if peer in row]
+            if "vertra" in row:
+                counted.append(f"{scalar}: {row['vertra']:.0f}, " + ", ".join(peers))
+        reason = REASONS.get(name.split(",")[0])
+        if not reason:
+            print(f"bench/table.py: no reason is known why {name} misses its target ({where})", file=sys.stderr)
+        lines.append([name, where, "<br>".join(counted), reason or "**Not known yet.**"])
+    columns = ["operation", "ratio where missed", "instructions: ours, theirs", "why"]
+    return ["| " + " | ".join(columns) + " |", "|---|---|---|---|",
+            *("| " + " | ".join(line) + " |" for line in lines)] if lines else ["None."]
+
+
+def text_file(directory, name):
+    path = f"{directory}/{name}"
+    if not os.path.exists(path):
+        return None
+    with open(path) as file:
+        return file.read().splitlines()
+
+
+def tables(directory):
+    return {
+        "release": optimised(directory, "release"),
+        "native": optimised(directory, "native"),
+        "debug": unoptimised(directory, "debug-g++"),
+        "debug by clang": unoptimised(directory, "debug-clang++"),
+        "headers": text_file(directory, "headers.txt"),
+        "losses": losses(directory),
+    }
+
+
+def main():
+    directory, *page = sys.argv[1:]
+    made = {name: lines for name, lines in tables(directory).items() if lines}
+    if not page:
+        for name, lines in made.items():
+            print(f"\n## {name}\n", *lines, sep="\n")
+        return
+    with open(page[0]) as file:
+        text = file.read()
+    for name, lines in made.items():
+        block = re.compile(f"(?<=<!-- {name} -->\n).*?(?=<!-- end of {name} -->)", re.DOTALL)
+        body = "\n" + "\n".join(lines) + "\n\n"
+        text, found = block.subn(lambda _: body, text)
+        if found != 1:
+            sys.exit(f"bench/table.py: {page[0]} has no place for the table {name}")
+    with open(page[0], "w") as file:
+        file.write(text)
+
+
+main()
