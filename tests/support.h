@@ -1,6 +1,6 @@
 #pragma once
 
-#include <vertra/solid/aabbox3d.h>
+#include <vertra/vertra.h>
 
 #include <glm/glm.hpp>
 #include <glm/gtc/type_ptr.hpp>
@@ -47,7 +47,12 @@ std::ostream& operator<<(std::ostream& out, Shape<T> const& shape) {
 namespace support {
 
 using namespace vertra;
-using FloatAndDouble = testing::Types<float, double>;
+/// The tests of what both scalars have.
+template <class T>
+class FloatAndDouble : public testing::Test {};
+using EitherScalar = testing::Types<float, double>;
+TYPED_TEST_SUITE(FloatAndDouble, EitherScalar);
+
 template <class T>
 inline constexpr T kNaN = std::numeric_limits<T>::quiet_NaN();
 template <class T>
@@ -57,8 +62,7 @@ template <class T>
 inline constexpr double kRounding = 256 * std::numeric_limits<T>::epsilon();
 inline constexpr double kRootRounding = kRounding<float>;
 
-/// True when every type is R; when operators Ops, as of <functional>, take an A and a B in neither order.
-template <class R, class... Ts> concept AllAre = (std::same_as<R, Ts> && ...);
+/// True when operators Ops, as of <functional>, take an A and a B in neither order.
 template <class A, class B, class... Ops>
 concept Refuse = (!std::invocable<Ops, A, B> && ...) && (!std::invocable<Ops, B, A> && ...);
 

@@ -1,94 +1,77 @@
+#include "../support.h"
+
+#include <vertra/foundation/blowfish.h>
 #include <vertra/foundation/registry_section.h>
 #include <vertra/foundation/tree.h>
-#include <vertra/vertra.h>
 
-#include <algorithm>
-#include <cstddef>
-#include <initializer_list>
-
-// The size of every type and where its fields lie, under every flag: what a caller that was compiled with one
-// version of the library relies on in the next.
+// The size of every type and where its fields lie: what a caller that was compiled with one version of the
+// library relies on in the next.
 
 namespace {
 
-using namespace vertra;
-using Numbers = std::initializer_list<std::size_t>;
+using namespace support;
+using namespace keel;
 
-/// Whether the bytes are so many units.
-constexpr bool Are(Numbers bytes, std::size_t unit, Numbers units) {
-    auto const same = [=](std::size_t b, std::size_t u) { return b == u * unit; };
-    return std::ranges::equal(bytes, units, same);
-}
-
-/// A pointer is half as long there, and a double may lie at half of its size.
+/// Pointers are half as long there, and a double may lie at half of its size.
 constexpr bool is_32_bit = sizeof(void*) == 4;
 
-template <class T>
-constexpr bool KeepsItsLayout() {
-    constexpr std::size_t s = sizeof(T);
-    static_assert(Are({sizeof(Vec4D<T>), offsetof(Vec4D<T>, x), offsetof(Vec4D<T>, y), offsetof(Vec4D<T>, z),
-                       offsetof(Vec4D<T>, w)},
-                      s, {4, 0, 1, 2, 3}));
-    static_assert(Are({sizeof(Vec3D<T>), offsetof(Vec3D<T>, x), offsetof(Vec3D<T>, y), offsetof(Vec3D<T>, z)},
-                      s, {3, 0, 1, 2}));
-    static_assert(Are({sizeof(Vec2D<T>), offsetof(Vec2D<T>, x), offsetof(Vec2D<T>, y)}, s, {2, 0, 1}));
-    static_assert(
-        Are({sizeof(Position2D<T>), offsetof(Position2D<T>, x), offsetof(Position2D<T>, y)}, s, {2, 0, 1}));
-    static_assert(
-        Are({sizeof(Dimension2D<T>), offsetof(Dimension2D<T>, width), offsetof(Dimension2D<T>, height)}, s,
-            {2, 0, 1}));
-    static_assert(Are({sizeof(Matrix3D<T>), offsetof(Matrix3D<T>, m)}, s, {16, 0}));
-    static_assert(Are({sizeof(Quat3D<T>), offsetof(Quat3D<T>, w), offsetof(Quat3D<T>, x),
-                       offsetof(Quat3D<T>, y), offsetof(Quat3D<T>, z)},
-                      s, {4, 0, 1, 2, 3}));
-    static_assert(
-        Are({sizeof(Line3D<T>), offsetof(Line3D<T>, start), offsetof(Line3D<T>, end)}, s, {8, 0, 4}));
-    static_assert(Are({sizeof(Plane3D<T>), offsetof(Plane3D<T>, normal), offsetof(Plane3D<T>, distance)}, s,
-                      {5, 0, 4}));
-    static_assert(
-        Are({sizeof(AABBox3D<T>), offsetof(AABBox3D<T>, min), offsetof(AABBox3D<T>, max)}, s, {8, 0, 4}));
-    static_assert(Are({sizeof(Sphere3D<T>), offsetof(Sphere3D<T>, center), offsetof(Sphere3D<T>, radius)}, s,
-                      {5, 0, 4}));
-    static_assert(Are({sizeof(BSphere3D<T>), offsetof(BSphere3D<T>, center), offsetof(BSphere3D<T>, radius)},
-                      s, {5, 0, 4}));
-    static_assert(Are({sizeof(Triangle3D<T>), offsetof(Triangle3D<T>, vertex)}, s, {12, 0}));
-    static_assert(Are({sizeof(Quad3D<T>), offsetof(Quad3D<T>, vertex)}, s, {16, 0}));
-    static_assert(Are({sizeof(Rect2D<T>), offsetof(Rect2D<T>, topLeft), offsetof(Rect2D<T>, bottomRight)}, s,
-                      {4, 0, 2}));
-    static_assert(is_32_bit || Are({sizeof(Line2D<T>), offsetof(Line2D<T>, start), offsetof(Line2D<T>, end),
-                                    offsetof(Line2D<T>, normal), offsetof(Line2D<T>, normalValid)},
-                                   s, {7, 0, 2, 4, 6}));
-    static_assert(Are({sizeof(Color3D<T>), offsetof(Color3D<T>, r), offsetof(Color3D<T>, g),
-                       offsetof(Color3D<T>, b), offsetof(Color3D<T>, a)},
-                      s, {4, 0, 1, 2, 3}));
-    static_assert(
-        is_32_bit ||
-        Are({sizeof(Light3D<T>), offsetof(Light3D<T>, type), offsetof(Light3D<T>, diffuse),
-             offsetof(Light3D<T>, specular), offsetof(Light3D<T>, ambient), offsetof(Light3D<T>, direction),
-             offsetof(Light3D<T>, position), offsetof(Light3D<T>, range), offsetof(Light3D<T>, falloff),
-             offsetof(Light3D<T>, attenuation0), offsetof(Light3D<T>, attenuation1),
-             offsetof(Light3D<T>, attenuation2), offsetof(Light3D<T>, theta), offsetof(Light3D<T>, phi)},
-            s, {28, 0, 1, 5, 9, 13, 17, 21, 22, 23, 24, 25, 26, 27}));
-    static_assert(is_32_bit || Are({sizeof(Material3D<T>), offsetof(Material3D<T>, diffuse),
-                                    offsetof(Material3D<T>, ambient), offsetof(Material3D<T>, specular),
-                                    offsetof(Material3D<T>, emissive), offsetof(Material3D<T>, power),
-                                    offsetof(Material3D<T>, texture1), offsetof(Material3D<T>, texture2),
-                                    offsetof(Material3D<T>, type), offsetof(Material3D<T>, typeParam),
-                                    offsetof(Material3D<T>, flag1), offsetof(Material3D<T>, flag9)},
-                                   1,
-                                   s == 4 ? Numbers{136, 0, 16, 32, 48, 64, 72, 80, 88, 92, 96, 128}
-                                          : Numbers{208, 0, 32, 64, 96, 128, 136, 144, 152, 160, 168, 200}));
-    return true;
+/// The fields are all there is in S, in this order, each as near to the one before as its type allows.
+template <class S, class Owner, class... Fields>
+void ExpectLayout(std::size_t size, Fields Owner::*... fields) {
+    S const object;
+    auto const* const start = reinterpret_cast<char const*>(&object);
+    std::ptrdiff_t end = 0;
+    auto const follows = [&]<class F>(F const& field) {
+        constexpr std::ptrdiff_t alignment = alignof(F), length = sizeof(F);
+        std::ptrdiff_t const at = reinterpret_cast<char const*>(&field) - start;
+        bool const near = at == (end + alignment - 1) / alignment * alignment;
+        end = at + length;
+        return near;
+    };
+    EXPECT_TRUE((is_32_bit || sizeof(S) == size) && (follows(object.*fields) && ...)) << typeid(S).name();
 }
-static_assert(KeepsItsLayout<float>() && KeepsItsLayout<double>());
 
-// Of the foundation, with the containers of libstdc++.
+TYPED_TEST(FloatAndDouble, FieldsKeepTheirPlaces) {
+    using T = TypeParam;
+    using V4 = Vec4D<T>;
+    using L2 = Line2D<T>;
+    using Q = Quat3D<T>;
+    using C = Color3D<T>;
+    using L = Light3D<T>;
+    using M = Material3D<T>;
+    std::size_t const s = sizeof(T);
+    ExpectLayout<V4>(4 * s, &V4::x, &V4::y, &V4::z, &V4::w);
+    ExpectLayout<Vec3D<T>>(3 * s, &Vec3D<T>::x, &Vec3D<T>::y, &Vec3D<T>::z);
+    ExpectLayout<Vec2D<T>>(2 * s, &Vec2D<T>::x, &Vec2D<T>::y);
+    ExpectLayout<Position2D<T>>(2 * s, &Position2D<T>::x, &Position2D<T>::y);
+    ExpectLayout<Dimension2D<T>>(2 * s, &Dimension2D<T>::width, &Dimension2D<T>::height);
+    ExpectLayout<Matrix3D<T>>(16 * s, &Matrix3D<T>::m);
+    ExpectLayout<Q>(4 * s, &Q::w, &Q::x, &Q::y, &Q::z);
+    ExpectLayout<Line3D<T>>(8 * s, &Line3D<T>::start, &Line3D<T>::end);
+    ExpectLayout<Plane3D<T>>(5 * s, &Plane3D<T>::normal, &Plane3D<T>::distance);
+    ExpectLayout<AABBox3D<T>>(8 * s, &AABBox3D<T>::min, &AABBox3D<T>::max);
+    ExpectLayout<Sphere3D<T>>(5 * s, &Sphere3D<T>::center, &Sphere3D<T>::radius);
+    ExpectLayout<BSphere3D<T>>(5 * s, &BSphere3D<T>::center, &BSphere3D<T>::radius);
+    ExpectLayout<Triangle3D<T>>(12 * s, &Triangle3D<T>::vertex);
+    ExpectLayout<Quad3D<T>>(16 * s, &Quad3D<T>::vertex);
+    ExpectLayout<Rect2D<T>>(4 * s, &Rect2D<T>::topLeft, &Rect2D<T>::bottomRight);
+    ExpectLayout<L2>(7 * s, &L2::start, &L2::end, &L2::normal, &L2::normalValid);
+    ExpectLayout<C>(4 * s, &C::r, &C::g, &C::b, &C::a);
+    ExpectLayout<L>(28 * s, &L::type, &L::diffuse, &L::specular, &L::ambient, &L::direction, &L::position,
+                    &L::range, &L::falloff, &L::attenuation0, &L::attenuation1, &L::attenuation2, &L::theta,
+                    &L::phi);
+    ExpectLayout<M>(s == 4 ? 136 : 208, &M::diffuse, &M::ambient, &M::specular, &M::emissive, &M::power,
+                    &M::texture1, &M::texture2, &M::type, &M::typeParam, &M::flag1, &M::flag2, &M::flag3,
+                    &M::flag4, &M::flag5, &M::flag6, &M::flag7, &M::flag8, &M::flag9);
+}
+
+// Of the foundation, in pointers, with the containers of libstdc++.
+template <std::size_t size, class... Types>
+concept AreLong = ((sizeof(Types) == size * sizeof(void*)) && ...);
 static_assert(is_32_bit ||
-              Are({sizeof(keel::Base), sizeof(keel::IBuffer), sizeof(keel::ISoftwareBuffer),
-                   sizeof(keel::IService), sizeof(keel::IEncrypterDecrypter),
-                   sizeof(keel::SmartPtr<keel::Base>), sizeof(keel::TreeVector), sizeof(keel::TreeList),
-                   sizeof(keel::TreeDeque), sizeof(keel::SmartTreeVector), sizeof(keel::SmartTreeList),
-                   sizeof(keel::CRegistrySection), sizeof(keel::CBlowFishEncrypterDecrypter)},
-                  8, {1, 1, 1, 1, 1, 2, 6, 6, 16, 6, 6, 12, 525}));
+              (AreLong<1, Base, IBuffer, ISoftwareBuffer, IService, IEncrypterDecrypter> &&
+               AreLong<6, TreeVector, TreeList, SmartTreeVector, SmartTreeList> && AreLong<16, TreeDeque> &&
+               AreLong<2, SmartPtr<Base>> && sizeof(SmartPtr<Base>::Counter) == 4 &&
+               AreLong<12, CRegistrySection> && AreLong<525, CBlowFishEncrypterDecrypter>));
 
 }  // namespace

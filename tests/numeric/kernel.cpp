@@ -21,11 +21,7 @@ TEST(KernelTest, RootIsTrueOverTheNormalRangeAndDefinedBeyond) {
                FastSqrt(kInfinity<float>), -0.0F, FastSqrt(-1), 0.0F, FastSqrt(kNaN<float>), kNaN<float>);
 }
 
-template <class T>
-class KernelScalarTest : public testing::Test {};
-TYPED_TEST_SUITE(KernelScalarTest, FloatAndDouble);
-
-TYPED_TEST(KernelScalarTest, AbsAndIsEqual) {
+TYPED_TEST(FloatAndDouble, KernelScalarAbsAndIsEqual) {
     using T = TypeParam;
     using Limits = std::numeric_limits<T>;
     for (T const x : {T(0), Limits::denorm_min(), T(1.5), Limits::max(), kInfinity<T>, kNaN<T>}) {

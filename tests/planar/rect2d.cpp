@@ -1,17 +1,10 @@
 #include "../support.h"
 
-#include <vertra/planar/rect2d.h>
-
 namespace {
 
-using namespace vertra;
 using namespace support;
 
-template <class T>
-class Rect2DTest : public testing::Test {};
-TYPED_TEST_SUITE(Rect2DTest, FloatAndDouble);
-
-TYPED_TEST(Rect2DTest, MovesGrowsClipsAndCompares) {
+TYPED_TEST(FloatAndDouble, Rect2DMovesGrowsClipsAndCompares) {
     using T = TypeParam;
     using R = Rect2D<T>;
     using P = Position2D<T>;
@@ -41,11 +34,7 @@ TYPED_TEST(Rect2DTest, MovesGrowsClipsAndCompares) {
                R(1, 1, 1, high) != R(1, 1, 1, low), 1, bad == bad, 1, bad != bad, 0, bad == R(bad), 0,
                valid(0, 0), 0, valid(0, 5), 1, valid(5, 0), 1, valid(-1, 5), 0, valid(5, -1), 0,
                valid(kNaN<T>, 0), 1);
-    static_assert(
-        sizeof(R) == 4 * sizeof(T) && (R(0, 0, 4, 4) & R(1, 1, 2, 2)).Width() == 2 &&
-        !requires { r.IsValid(); } &&
-        AllAre<R const&, decltype(s = r), decltype(s += p), decltype(s.Repair()), decltype(s.Clip(r)),
-               decltype(s |= r), decltype(s.Move(p)), decltype(s.Inflate(1, 2))>);
+    static_assert((R(0, 0, 4, 4) & R(1, 1, 2, 2)).Width() == 2 && !requires { r.IsValid(); });
 
     Random<T> random{1};
     auto [a, b, at] = std::tuple<R, R, P>();
