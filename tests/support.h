@@ -1,5 +1,6 @@
 #pragma once
 
+#include <vertra/interop/ostream.h>
 #include <vertra/vertra.h>
 
 #include <glm/glm.hpp>
@@ -16,6 +17,8 @@
 /// with random numbers and compared as one.
 namespace support {
 
+using namespace vertra;
+
 /// To read or, where the object is not const, to write.
 template <template <class> class Shape, std::floating_point T>
 std::span<T> Scalars(Shape<T> const& shape) {
@@ -30,23 +33,6 @@ auto Scalars(A const& a) {
     }
 }
 
-}  // namespace support
-
-namespace vertra {
-
-/// Found by the test framework for its messages; all digits, so that a failure can be repeated.
-template <template <class> class Shape, std::floating_point T>
-std::ostream& operator<<(std::ostream& out, Shape<T> const& shape) {
-    out.precision(std::numeric_limits<T>::max_digits10);
-    for (T const scalar : support::Scalars(shape)) out << ' ' << scalar;
-    return out << ';';
-}
-
-}  // namespace vertra
-
-namespace support {
-
-using namespace vertra;
 /// The tests of what both scalars have.
 template <class T>
 class FloatAndDouble : public testing::Test {};

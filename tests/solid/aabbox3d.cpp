@@ -49,10 +49,8 @@ TYPED_TEST(FloatAndDouble, AABBox3DEdgesAndProperties) {
     Random<T> random, halves{2}, steps{1};
     for (int i = 0; i < 5000; ++i) {
         random.Fill(box, line);
-        box.Repair().GetEdges(corners).GetFacePlanes(planes);
-        EXPECT_TRUE(AgreesWithClipping(box.Intersects(line), box, line.start, line.end)) << box << line;
-        for (auto const& face : planes)
-            for (V const& corner : corners) EXPECT_LT(face.Distance(V(corner)), 1e-4) << box;
+        EXPECT_TRUE(AgreesWithClipping(box.Repair().Intersects(line), box, line.start, line.end))
+            << box << line;
 
         halves.Fill(box, other, plane, p);
         V const d = Image(V{std::exp2(steps()), std::exp2(steps()), std::exp2(steps())}, i % 24);
