@@ -1,4 +1,4 @@
-"""Run by gdb on the program built from main.cpp: what it shows of each object is its line in shown.txt."""
+"""Run by gdb on the program built from main.cpp: what it shows of each object is the comment beside it."""
 
 import pathlib
 import re
@@ -11,12 +11,11 @@ faults = []
 gdb.execute("break Stop")
 gdb.execute("run")
 gdb.execute("up")
-objects = (here / "shown.txt").read_text().splitlines()
-for expected in objects:
-    name = expected.split()[0]
-    shown = name + " = " + gdb.execute("output " + name, to_string=True)
+objects = re.findall(r"(\w+)(?:\(.*\))?; +// (.*)", (here / "main.cpp").read_text())
+for name, expected in objects:
+    shown = gdb.execute("output " + name, to_string=True)
     if shown != expected:
-        faults.append(f"{shown}\nis to be\n{expected}")
+        faults.append(f"{name} = {shown}\nis to be\n{expected}")
 
 # Every expression of the natvis file means something for the type that it stands under.
 tree = xml.etree.ElementTree.parse(here.parents[1] / "debugger/vertra.natvis")
