@@ -72,7 +72,8 @@ TYPED_TEST(FloatAndDouble, VectorsCompareAllComponentsAtOnce) {
         };
         check(std::equal_to<>(), std::less<>(), std::less_equal<>(), std::greater<>(),
               std::greater_equal<>());
-        ExpectNear(0, Inputs(a, b), a != b, 1 - (a == b), a != s, 1 - (a == s), s != a, 1 - (s == a), !a, std::same_as<V, Vec3D<T>> ? a == 0 : a != 0);
+        ExpectNear(0, Inputs(a, b), a != b, 1 - (a == b), a != s, 1 - (a == s), s != a, 1 - (s == a), !a,
+                   std::same_as<V, Vec3D<T>> ? a == 0 : a != 0);
     };
     for (int i = 0; i < 20000; ++i) compare(Vec4D<T>(), {}, {}), compare(Vec3D<T>(), {}, {});
 }
