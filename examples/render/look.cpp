@@ -5,6 +5,7 @@
 #include "common/run.h"
 
 #include <charconv>
+#include <cstdio>
 #include <numbers>
 #include <string>
 #include <system_error>
@@ -14,8 +15,6 @@ namespace {
 
 using vertra::Vec4D;
 
-Color const kBlack = 0xFF000000U;
-
 /// Reads RRGGBB.
 unsigned int ParseColor(std::string const& option, std::string const& text) {
     unsigned int rgb = 0;
@@ -24,12 +23,12 @@ unsigned int ParseColor(std::string const& option, std::string const& text) {
     if (text.size() != 6 || rest != end || error != std::errc()) {
         throw Error(option + ": needs six hexadecimal digits, RRGGBB, not " + text);
     }
-    return 0xFF000000U | rgb;
+    return rgb;
 }
 
-void AddColor(CLI::App& app, std::string const& name, Color& color, std::string const& what) {
+void AddColor(CLI::App& app, std::string const& name, unsigned int& color, std::string const& what) {
     char digits[7] = "";
-    std::snprintf(digits, sizeof digits, "%06X", static_cast<unsigned int>(color) & 0xFFFFFFU);
+    std::snprintf(digits, sizeof digits, "%06X", color);
     app.add_option_function<std::string>(
            name, [&color, name](std::string const& text) { color = ParseColor(name, text); }, what)
         ->type_name("RRGGBB")
@@ -90,11 +89,12 @@ std::vector<Light> Look::MakeLights(vertra::AABBox3D<double> const& box) const {
     double const range = 10 * width;
     constexpr double kRadians = std::numbers::pi / 180;
     auto const [inner, outer] = spotCone;
-    return {CreateDirectionalLight(sunColor, sunColor, ambient, sunward),
-            CreatePointLight(lampColor, lampColor, kBlack, Vec4D<double>(),
+    Color const black(0U);
+    return {CreateDirectionalLight(Color(sunColor), Color(sunColor), Color(ambient), sunward),
+            CreatePointLight(Color(lampColor), Color(lampColor), black, Vec4D<double>(),
                              place("--lamp", lamp, Vec4D<double>(-0.7, 0.1, 0.6)), range, 1, 1, 0, square),
-            CreateSpotLight(spotColor, spotColor, kBlack, to - from, from, range, 1, 1, 0, square,
-                            inner * kRadians, outer * kRadians)};
+            CreateSpotLight(Color(spotColor), Color(spotColor), black, to - from, from, range, 1, 1, 0,
+                            square, inner * kRadians, outer * kRadians)};
 }
 
 }  // namespace example

@@ -12,23 +12,23 @@
 
 namespace example {
 
-/// The options of colour and light. Three lights shine: the sun, far away, the lamp, to all sides, and the
-/// spot.
+/// The options of colour and light, colours as 0xRRGGBB. Three lights shine: the sun, far away, the lamp, to
+/// all sides, and the spot.
 struct Look {
     using Numbers = std::array<double, 3>;
 
-    Color background = 0xFF1B2233U;
-    Color color = 0xFFE08A3CU;
-    Color highlight = 0xFF808080U;
+    unsigned int background = 0x1B2233;
+    unsigned int color = 0xE08A3C;
+    unsigned int highlight = 0x808080;
     double shininess = 40;
-    Color ambient = 0xFF262A33U;
+    unsigned int ambient = 0x262A33;
     Numbers sun = {-0.5, -1, -0.8};
-    Color sunColor = 0xFFB8B0A0U;
+    unsigned int sunColor = 0xB8B0A0;
     std::optional<Numbers> lamp;  ///< by default on the left, in front of the mesh
-    Color lampColor = 0xFF4068A0U;
+    unsigned int lampColor = 0x4068A0;
     std::optional<Numbers> spot;        ///< by default above the mesh
     std::optional<Numbers> spotTarget;  ///< by default the middle of the mesh
-    Color spotColor = 0xFF604030U;
+    unsigned int spotColor = 0x604030;
     std::array<double, 2> spotCone = {30, 50};  ///< in degrees
 
     void AddTo(CLI::App& app);
