@@ -1,4 +1,6 @@
-// Compiled into the Windows library alone.
+// Part of the Windows library alone.
+#ifdef _WIN32
+
 #include <windows.h>
 
 // The sine, cosine and arc tangent that mingw links in come from the x87, which gives up large angles. The C
@@ -23,3 +25,5 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_ATTACH) DisableThreadLibraryCalls(library);
     return TRUE;
 }
+
+#endif
