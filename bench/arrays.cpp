@@ -62,9 +62,9 @@ constexpr int kSamples = 64;
 template <class T, class Vector>
 std::array<T, 3 * kSamples> Samples(Vector const* vectors, int count) {
     std::array<T, 3 * kSamples> samples;
-    for (int i = 0; i < kSamples; ++i) {
-        auto const* const vector = reinterpret_cast<T const*>(vectors + i * ((count - 1) / (kSamples - 1)));
-        std::copy_n(vector, 3, samples.begin() + 3 * i);
+    std::size_t const step = (static_cast<std::size_t>(count) - 1) / (kSamples - 1);
+    for (std::size_t i = 0; i < kSamples; ++i) {
+        std::copy_n(reinterpret_cast<T const*>(vectors + i * step), 3, samples.data() + 3 * i);
     }
     return samples;
 }

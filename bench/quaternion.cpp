@@ -44,7 +44,7 @@ template <class T>
 void Register() {
     using vertra::Conj;
     using vertra::Quat3D;
-    int const count = kInputs + 1;
+    [[maybe_unused]] int const count = kInputs + 1;
     Random<T> random;
     std::vector<vertra::Vec4D<T>> points(kInputs);
     for (auto& point : points) point = random.Point();
@@ -52,7 +52,7 @@ void Register() {
     auto const* const q = RandomQuaternions<T>(count);
 
     // Ours turn vectors and make matrices in the opposite sense: there the peers get the conjugates.
-    auto const peers = [=](auto make, bool conjugate) {
+    [[maybe_unused]] auto const peers = [=](auto make, bool conjugate) {
         std::vector<decltype(make(*q))> made;
         for (int i = 0; i < count; ++i) made.push_back(make(conjugate ? Conj(q[i]) : q[i]));
         return Keep(std::move(made));
@@ -79,7 +79,7 @@ void Register() {
             auto* const cq = Writable(peers(cglm, false)); auto* const cc = Writable(peers(cglm, true));
             auto* const cv = Writable(As<CglmVec3>(v, kInputs));)
 
-    ToOurs const toOurs;
+    [[maybe_unused]] ToOurs const toOurs;
     Operation<T> product("quaternion product", kInputs, 4, 1e-6);
     product.Add("vertra", [=](int i) { return q[i] * q[i + 1]; });
     IF_GLM(product.Add(

@@ -99,7 +99,7 @@ void RegisterBox() {
     }
     auto const* const b = Keep(std::move(boxes));
     auto const* const p = Keep(std::move(points));
-    int const count = kInputs + 1;
+    [[maybe_unused]] int const count = kInputs + 1;
     IF_EIGEN(using EigenBox = Eigen::AlignedBox<T, 3>; auto const* const eb = Boxes<EigenBox>(b, count);
              auto const* const ep = As<Eigen::Matrix<T, 3, 1>>(p, count);)
     IF_IMATH(using ImathBox = Imath::Box<Imath::Vec3<T>>; auto const* const ib = Boxes<ImathBox>(b, count);

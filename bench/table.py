@@ -20,7 +20,7 @@ DEBUG_COST = 2.5, 20  # and no slower than so many times release and so many nan
 
 
 def lines_of(heading, columns, rows):
-    return [heading, "", "| " + " | ".join(columns) + " |", "|---|" + "--:|" * (len(columns) - 1),
+    return [*heading, "| " + " | ".join(columns) + " |", "|---|" + "--:|" * (len(columns) - 1),
             *("| " + " | ".join(row) + " |" for row in rows)]
 
 
@@ -57,7 +57,7 @@ def optimised(directory, part):
         cells.append(f"{100 * max(spreads):.0f} %")
         lines.append(cells)
     columns = ["operation", "vertra", *PEERS, "ours / best", "latency: vertra", "best peer", "ours / best", "spread"]
-    return lines_of(made_by(context), columns, lines)
+    return lines_of([made_by(context), ""], columns, lines)
 
 
 def unoptimised(directory, part):
@@ -88,7 +88,7 @@ def unoptimised(directory, part):
                "spread"]
     summary = (f"{made_by(context)} {len(ratios)} rows beside a header-only peer, "
                f"the median {statistics.median(ratios):.1f} times faster, the least {min(ratios):.1f}.")
-    return lines_of(summary, columns, lines)
+    return lines_of([summary, ""], columns, lines)
 
 
 def instruction_counts(directory):
@@ -105,40 +105,64 @@ def instruction_counts(directory):
     return counts
 
 
-def losses(directory):
-    """A line for each operation that misses a target."""
-    missed = {}
-    for part in ["release", "native", "debug-g++", "debug-clang++"]:
-        for (operation, kind), row in read_part(directory, part)[1].items():
-            ours = row["vertra"].nanoseconds
-            if part.startswith("debug"):
-                peer, _ = best(row, HEADER_ONLY)
-                ratio = peer and peer / ours
-                bad = peer and ratio < FASTER
-            else:
-                peer, _ = best(row)
-                ratio = peer and ours / peer
-                bad = peer and ratio > SLOWER
-            if bad and kind == "throughput":
-                name, scalar = operation.rsplit(", ", 1)
-                missed.setdefault(name, {}).setdefault(part, []).append(f"{ratio:.1f} {scalar}")
+def scalars_of(directory, part, missed):
+    """{operation without its scalar: {scalar: row}}, of throughput rows for which missed(row) is true"""
+    found = {}
+    for (operation, kind), row in sorted(read_part(directory, part)[1].items()):
+        if kind == "throughput" and missed(row):
+            name, scalar = operation.rsplit(", ", 1)
+            found.setdefault(name, {})[scalar] = row
+    return found
+
+
+def slower(row):
+    return row["vertra"].nanoseconds / best(row)[0] if best(row)[0] else 0
+
+
+def faster(row):
+    peer, _ = best(row, HEADER_ONLY)
+    return peer / row["vertra"].nanoseconds if peer else float("inf")
+
+
+def optimised_losses(directory):
+    parts = {part: scalars_of(directory, part, lambda row: slower(row) > SLOWER) for part in ["release", "native"]}
     counts = instruction_counts(directory)
     lines = []
-    for name, parts in sorted(missed.items()):
-        where = "; ".join(f"{part}: {', '.join(sorted(ratios))}" for part, ratios in parts.items())
+    for name in sorted({name for rows in parts.values() for name in rows}):
+        line = [name]
+        for rows in parts.values():
+            line.append(", ".join(f"{slower(row):.1f} {scalar}" for scalar, row in rows.get(name, {}).items()))
         counted = []
         for scalar in ["float", "double"]:
             row = counts.get(f"{name}, {scalar}", {})
             peers = [f"{row[peer]:.0f} {peer}" for peer in PEERS if peer in row]
             if "vertra" in row:
-                counted.append(f"{scalar}: {row['vertra']:.0f}, " + ", ".join(peers))
+                counted.append(f"{scalar} {row['vertra']:.0f}: " + ", ".join(peers))
         reason = REASONS.get(name.split(",")[0])
         if not reason:
-            print(f"bench/table.py: no reason is known why {name} misses its target ({where})", file=sys.stderr)
-        lines.append([name, where, "<br>".join(counted), reason or "**Not known yet.**"])
-    columns = ["operation", "ratio where missed", "instructions: ours, theirs", "why"]
-    return ["| " + " | ".join(columns) + " |", "|---|---|---|---|",
-            *("| " + " | ".join(line) + " |" for line in lines)] if lines else ["None."]
+            print(f"bench/table.py: bench/reasons.py has no reason why {name} is slow", file=sys.stderr)
+        lines.append(line + ["<br>".join(counted), reason or "**Not known yet.**"])
+    return lines_of([], ["operation", "-O3", "-march=native", "instructions: ours, theirs", "why"], lines)
+
+
+def unoptimised_losses(directory):
+    """Of g++, with our nanoseconds taken apart."""
+    _, release = read_part(directory, "release")
+    _, debug = read_part(directory, "debug-g++")
+    if not release or not debug:
+        return None
+    loop = debug["the empty loop, float", "throughput"]["vertra"].nanoseconds
+    lines = []
+    for name, rows in scalars_of(directory, "debug-g++", lambda row: faster(row) < FASTER).items():
+        for scalar, row in rows.items():
+            ours = row["vertra"].nanoseconds
+            work = release[f"{name}, {scalar}", "throughput"]["vertra"].nanoseconds
+            peer, peers_name = best(row, HEADER_ONLY)
+            lines.append([f"{name}, {scalar}", number(peer / ours, digits=1), number(ours, digits=1),
+                          number(work, digits=1), number(loop, digits=1), number(ours - work - loop, digits=1),
+                          f"{number(peer, digits=1)} {peers_name}"])
+    columns = ["operation", "times faster", "our ns", "the function at -O3", "caller's loop", "the call", "their ns"]
+    return lines_of([], columns, lines)
 
 
 def text_file(directory, name):
@@ -156,7 +180,8 @@ def tables(directory):
         "debug": unoptimised(directory, "debug-g++"),
         "debug by clang": unoptimised(directory, "debug-clang++"),
         "headers": text_file(directory, "headers.txt"),
-        "losses": losses(directory),
+        "losses": optimised_losses(directory),
+        "losses while debugging": unoptimised_losses(directory),
     }
 
 

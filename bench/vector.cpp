@@ -13,7 +13,7 @@ void Register() {
     std::vector<vertra::Vec4D<T>> vectors(kInputs + 1);
     for (auto& vector : vectors) vector = random.Point();
     auto const* const v = Keep(std::move(vectors));
-    int const count = kInputs + 1;
+    [[maybe_unused]] int const count = kInputs + 1;
     IF_GLM(auto const* const gv = As<glm::vec<4, T, glm::packed_highp>>(v, count);
            auto const* const av = As<glm::vec<4, T, glm::aligned_highp>>(v, count);
            auto const* const g3 = As<glm::vec<3, T, glm::packed_highp>>(v, count);
