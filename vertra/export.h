@@ -4,8 +4,8 @@
 /// function lines of each header's list of instantiations, nowhere else.
 #ifndef _WIN32
 #define VERTRA_API __attribute__((visibility("default")))
-#elif defined(vertra_EXPORTS)  // while the library itself is compiled
+#elif defined(vertra_EXPORTS)  // while the library itself is compiled; CMake defines it
 #define VERTRA_API __declspec(dllexport)
-#else
-#define VERTRA_API __declspec(dllimport)
+#else  // the import library does it: on functions that may be inlined g++ ignores dllimport, with a warning
+#define VERTRA_API
 #endif
