@@ -58,7 +58,7 @@ void RegisterGrowth(std::string const& place, Vec4D<T> const* p, int count) {
 }
 
 /// x, y and z of 64 vectors spread over an array: what is compared of it.
-constexpr int kSamples = 64;
+constexpr std::size_t kSamples = 64;
 template <class T, class Vector>
 std::array<T, 3 * kSamples> Samples(Vector const* vectors, int count) {
     std::array<T, 3 * kSamples> samples;
@@ -74,7 +74,7 @@ template <class T>
 class ArrayOperation {
 public:
     ArrayOperation(std::string const& name, int count)
-        : operation_(name, 1, 3 * kSamples, 1e-5), count_(count) {}
+        : operation_(name, 1, static_cast<int>(3 * kSamples), 1e-5), count_(count) {}
 
     /// all(in, out, count) does it.
     template <class Vector, class All>

@@ -53,8 +53,9 @@ void Register() {
 
     // Ours turn vectors and make matrices in the opposite sense: there the peers get the conjugates.
     [[maybe_unused]] auto const peers = [=](auto make, bool conjugate) {
-        std::vector<decltype(make(*q))> made;
-        for (int i = 0; i < count; ++i) made.push_back(make(conjugate ? Conj(q[i]) : q[i]));
+        std::vector<decltype(make(*q))> made(static_cast<std::size_t>(count));
+        std::transform(q, q + count, made.begin(),
+                       [&](Quat3D<T> const& a) { return make(conjugate ? Conj(a) : a); });
         return Keep(std::move(made));
     };
     IF_GLM(
@@ -143,8 +144,8 @@ void Register() {
         return result;
     });)
 
-    std::vector<vertra::Matrix3D<T>> matrices;
-    for (int i = 0; i < kInputs; ++i) matrices.push_back(ToMatrix(Conj(q[i])));
+    std::vector<vertra::Matrix3D<T>> matrices(kInputs);
+    std::transform(q, q + kInputs, matrices.begin(), [](Quat3D<T> const& a) { return ToMatrix(Conj(a)); });
     auto const* const m = Keep(std::move(matrices));
     IF_GLM(auto const* const gm = As<glm::mat<4, 4, T, glm::packed_highp>>(m, kInputs);)
     IF_EIGEN(auto const* const em = As<EigenMatrix>(m, kInputs);)

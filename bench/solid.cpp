@@ -185,6 +185,7 @@ void RegisterTriangle() {
 #ifdef VERTRA_BENCH_CGLM
     if constexpr (kFloat<T>) {
         std::vector<std::array<CglmVec3, 3>> cglmTriangles;
+        cglmTriangles.reserve(kMany);
         auto const corner = [](Vec4D<T> const& v) { return CglmVec3{{v.x, v.y, v.z}}; };
         for (int i = 0; i < kMany; ++i) {
             cglmTriangles.push_back({corner(t[i][0]), corner(t[i][1]), corner(t[i][2])});
