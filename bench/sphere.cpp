@@ -77,6 +77,7 @@ void Register() {
         using Vec3 = Eigen::Matrix<T, 3, 1>;
         auto const* const center = Made<Vec3>(s, &Sphere3D<T>::center);
         std::vector<Eigen::Hyperplane<T, 3>> made;
+        made.reserve(kInputs);
         for (int i = 0; i < kInputs; ++i) {
             made.emplace_back(Vec3(p[i].normal.x, p[i].normal.y, p[i].normal.z), p[i].distance);
         }

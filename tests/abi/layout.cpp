@@ -22,10 +22,10 @@ void ExpectLayout(std::size_t size, Fields Owner::*... fields) {
     auto const* const start = reinterpret_cast<char const*>(&object);
     std::ptrdiff_t end = 0;
     auto const follows = [&]<class F>(F const& field) {
-        constexpr std::ptrdiff_t alignment = alignof(F), length = sizeof(F);
+        constexpr std::ptrdiff_t alignment = alignof(F);
         std::ptrdiff_t const at = reinterpret_cast<char const*>(&field) - start;
         bool const near = at == (end + alignment - 1) / alignment * alignment;
-        end = at + length;
+        end = reinterpret_cast<char const*>(&field + 1) - start;
         return near;
     };
     EXPECT_TRUE((is_32_bit || sizeof(S) == size) && (follows(object.*fields) && ...)) << typeid(S).name();
