@@ -23,5 +23,7 @@ REASONS = {
     "rectangle clip": "Six comparisons, two of them after the others: a rectangle of nothing ends with equal corners, "
                       "where the peers leave theirs crossed; they do four, side by side.",
     "segment by its ends against box": ROOT,
+    "sphere against plane": "The distance is a dot product over four components and the relation has three outcomes; "
+                            "the peers' callers take three components and one comparison.",
     "slerp": "Trigonometry of float goes through the functions of double, for the same bits everywhere.",
 }
