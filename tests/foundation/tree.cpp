@@ -96,7 +96,7 @@ TYPED_TEST(SmartTree, PointersCountTheirShares) {
     EXPECT_TRUE((order == Order{1, 2, 3}) && a.counter->count == 1);
     b = a;
     Pointer const c = std::move(b);
-    EXPECT_TRUE(!b && b.counter == nullptr);  // NOLINT(bugprone-use-after-move)
+    EXPECT_TRUE(!b && b.counter == nullptr);  // NOLINT(bugprone-use-after-move): a move empties
     EXPECT_TRUE(c == a && a.counter->count == 2);
 }
 
