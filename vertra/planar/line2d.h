@@ -57,7 +57,8 @@ public:
     /// The side of a point farther away than the tolerance; else, and for a NaN, on the line.
     constexpr POINT2D_CLASSIFICATION ClassifyPoint(Vec2D<T> const& p, T tolerance) const;
     /// Writes the crossing point, wherever on the lines it lies, to out unless out is null; nothing where
-    /// they are parallel. Parallel means exactly so; a line of no length is parallel to every other.
+    /// they are parallel. Parallel means exactly so. A line of no length is parallel to every other, and
+    /// collinear as the argument.
     constexpr LINE2D_CLASSIFICATION Intersection(Line2D const& l, Vec2D<T>* out = nullptr) const;
 };
 

@@ -37,7 +37,8 @@ public:
     }
     /// All four edges are inside.
     constexpr int IsPointInside(Position2D<T> const& p) const;
-    /// 1 when the insides overlap; a shared edge is no collision.
+    /// 1 when on both axes each begins before the other ends: a shared edge is no collision, a rectangle
+    /// without width or height within another is one.
     constexpr int IsCollided(Rect2D const& r) const;
     /// 1 when it is not inverted and not of zero size, though one extent may be 0; also for a NaN extent.
     constexpr int IsValid();

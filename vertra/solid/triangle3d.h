@@ -94,7 +94,8 @@ constexpr int IsInsideTriangle(Triangle3D<T> const& triangle, Vec4D<T> const& po
            IsOnTheSameSide(point, v[2], v[0], v[1]);
 }
 /// The same for the point's projection, by barycentric coordinates and their sign bits, without a branch.
-/// Here the two edges through vertex[0] are inside, as far as rounding goes, and the third is outside.
+/// Here the third edge is outside and the two through vertex[0] are inside, unless a sum that is zero there
+/// comes out as -0.
 template <class T>
 constexpr int IsInsideTriangleFast(Triangle3D<T> const& triangle, Vec4D<T> const& point);
 /// The nearest point of the outline, not of the surface.
