@@ -1,7 +1,10 @@
 # cmake --install: libraries, headers, the package for find_package(vertra CONFIG), vertra.pc for pkg-config.
 include(CMakePackageConfigHelpers)
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
 
-install(TARGETS vertra keel EXPORT vertra FILE_SET HEADERS FILE_SET interop)
+install(TARGETS vertra keel EXPORT vertra
+        LIBRARY COMPONENT library NAMELINK_COMPONENT development
+        FILE_SET HEADERS FILE_SET interop)
 
 # Nothing else is needed, so the exported targets are the whole package configuration.
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vertra)
@@ -25,3 +28,7 @@ cmake_path(APPEND gdb_dir ${CMAKE_INSTALL_LIBDIR})
 install(FILES debugger/gdb.py RENAME $<TARGET_FILE_NAME:vertra>-gdb.py
         DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${gdb_dir})
 install(FILES debugger/vertra.natvis DESTINATION ${CMAKE_INSTALL_DATADIR}/vertra)
+
+# The manual, where scripts/docs has built it.
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/build/docs/ DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libvertra-doc/html
+        COMPONENT documentation OPTIONAL)
