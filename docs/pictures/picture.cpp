@@ -48,7 +48,8 @@ std::string Escaped(std::string_view text) {
 }
 
 std::string Attribute(std::string_view name, std::string_view value) {
-    return " " + std::string(name) + "=\"" + std::string(value) + "\"";
+    std::string text(" ");
+    return text.append(name).append("=\"").append(value).append("\"");
 }
 
 }  // namespace
