@@ -1,8 +1,10 @@
 #pragma once
 
+/// @file
 /// Every header, in dependency order, but for the two that bring in the standard containers:
 /// foundation/tree.h and foundation/registry_section.h.
 // clang-format off
+#include <vertra/version.h>
 #include <vertra/export.h>
 #include <vertra/numeric/kernel.h>
 #include <vertra/numeric/array_view.h>

@@ -62,16 +62,20 @@ template <class S, class T> concept OtherScalar = std::is_arithmetic_v<S> && !st
 template <class T>
 class VERTRA_API Color3D {
 public:
+    /// @{ In memory in this order, without gaps.
     T r;
     T g;
     T b;
     T a;
+    /// @}
 
     /// Leaves the channels unset.
     constexpr Color3D() {}
+    /// Each as given, also out of 0 to 1.
     constexpr Color3D(T red, T green, T blue, T alpha) : r(red), g(green), b(blue), a(alpha) {}
     /// Four scalars in the order of the fields.
     constexpr Color3D(T const* const values) : Color3D(values[0], values[1], values[2], values[3]) {}
+    /// All four channels.
     constexpr Color3D(Color3D const& other);
     /// Each byte times 1/255.
     constexpr Color3D(unsigned int packed);
@@ -79,27 +83,34 @@ public:
     Color3D(std::nullptr_t) = delete;
     Color3D(ArrayView auto const&) = delete;
 
+    /// All four channels.
     constexpr Color3D const& operator=(Color3D const& other);
+    /// Four scalars in the order of the fields.
     constexpr Color3D const& operator=(T const* const values) { return *this = Color3D(values); }
+    /// Each byte times 1/255.
     constexpr Color3D const& operator=(unsigned int packed) { return *this = Color3D(packed); }
     Color3D const& operator=(std::floating_point auto) = delete;
     Color3D const& operator=(std::nullptr_t) = delete;
     Color3D const& operator=(ArrayView auto const&) = delete;
 
-    /// The array view: four scalars from r on.
+    /// @{ The array view: four scalars from r on.
     constexpr operator T*() { return &r; }
     constexpr operator T const*() const { return &r; }
-    /// Channel i, 0 to 3 in the order r, g, b, a; not range-checked.
+    /// @}
+    /// @{ Channel i, 0 to 3 in the order r, g, b, a; not range-checked.
     constexpr T& operator[](int i) { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T& operator[](unsigned int i) { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T& operator[](WideIndex i);
     constexpr T const& operator[](int i) const { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T const& operator[](unsigned int i) const { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T const& operator[](WideIndex i) const;
+    /// @}
+    /// @{
     /// The packed word: each channel times 255, truncated, its low eight bits. Out of 0 to 1 it wraps; a NaN,
     /// and what does not fit 64 bits, gives the byte 0.
     constexpr operator unsigned int() { return static_cast<Color3D const&>(*this); }
     constexpr operator unsigned int() const;
+    /// @}
     /// Every other scalar is refused, so that no built-in operator takes a colour for a number (g++ looks at
     /// the one to int alone there, and does not at templates).
     operator int() = delete;
@@ -109,24 +120,30 @@ public:
     template <detail::OtherScalar<unsigned int> S>
     operator S() const = delete;
 
+    /// @{ The channel as it is stored.
     constexpr T Red() const { return r; }
     constexpr T Green() const { return g; }
     constexpr T Blue() const { return b; }
     constexpr T Alpha() const { return a; }
+    /// @}
 
+    /// @{ As the operator of two operands, saturating.
     constexpr Color3D const& operator+=(Color3D const& other) { return *this = *this + other; }
     constexpr Color3D const& operator-=(Color3D const& other) { return *this = *this - other; }
     constexpr Color3D const& operator*=(Color3D const& other) { return *this = *this * other; }
     constexpr Color3D const& operator*=(int n) { return *this = *this * static_cast<T>(n); }
     constexpr Color3D const& operator/=(int n) { return *this = *this / static_cast<T>(n); }
+    /// @}
     Color3D const& operator*=(std::floating_point auto) = delete;
     Color3D const& operator/=(std::floating_point auto) = delete;
 
-    /// 1 for the object itself and where the packed words are equal.
+    /// @{ 1 for the object itself and where the packed words are equal.
     constexpr int operator==(Color3D const& other) const;
     constexpr int operator!=(Color3D const& other) const { return !(*this == other); }
+    /// @}
 };
 
+/// @{ Channel by channel, alpha included, saturating.
 template <class T>
 constexpr Color3D<T> operator+(Color3D<T> const& a, Color3D<T> const& b) {
     return Color3D<T>(detail::Saturate(a.r + b.r), detail::Saturate(a.g + b.g), detail::Saturate(a.b + b.b),
@@ -150,6 +167,7 @@ template <class T>
 constexpr Color3D<T> operator*(std::type_identity_t<T> s, Color3D<T> const& c) {
     return c * s;
 }
+/// @}
 /// c * (1 / s): one division. By 0, a zero channel becomes a NaN.
 template <class T>
 constexpr Color3D<T> operator/(Color3D<T> const& c, std::type_identity_t<T> s) {
@@ -163,6 +181,7 @@ constexpr Color3D<T> operator/(std::type_identity_t<T> s, Color3D<T> const& c) {
 }
 
 // Without these a scalar of another type, as in `c * 2`, would waver between T and the packed word.
+/// @{ The scalar is converted to T first.
 template <class T, detail::OtherScalar<T> S>
 constexpr Color3D<T> operator*(Color3D<T> const& c, S s) {
     return c * static_cast<T>(s);
@@ -179,6 +198,7 @@ template <class T, detail::OtherScalar<T> S>
 constexpr Color3D<T> operator/(S s, Color3D<T> const& c) {
     return static_cast<T>(s) / c;
 }
+/// @}
 
 /// (a * b) + (a * c), each of the three results saturating.
 template <class T>
@@ -201,7 +221,7 @@ template <class T>
 constexpr Vec4D<T> ToVector(Color3D<T> const& c) {
     return Vec4D<T>(c.r, c.g, c.b);
 }
-/// Sets the channel as it is.
+/// @{ Sets the channel as it is.
 template <class T>
 constexpr void AdjustRChannel(std::type_identity_t<T> value, Color3D<T>& c) {
     c.r = value;
@@ -218,6 +238,7 @@ template <class T>
 constexpr void AdjustAChannel(std::type_identity_t<T> value, Color3D<T>& c) {
     c.a = value;
 }
+/// @}
 /// Adds delta to r, g and b, saturating; alpha stays.
 template <class T>
 constexpr void AdjustBrightness(std::type_identity_t<T> delta, Color3D<T>& c) {

@@ -13,8 +13,10 @@ namespace vertra {
 template <class T>
 class VERTRA_API Light3D {
 public:
+    /// What kind of light the renderer is to make of it.
     enum LIGHT_TYPE : int { LIGHT_POINT = 1, LIGHT_SPOT = 2, LIGHT_DIRECTIONAL = 3 };
 
+    /// @{ For the renderer; nothing here reads it.
     LIGHT_TYPE type;
     Color3D<T> diffuse;
     Color3D<T> specular;
@@ -26,18 +28,21 @@ public:
     T attenuation0;
     T attenuation1;
     T attenuation2;
+    /// @}
     T theta;  ///< 0.4 by default, the float value in both scalars
     T phi;    ///< 0.9 by default, the float value in both scalars
 
     /// A white directional light along (1, 1, 1), of range 1000, falloff 1 and attenuation 1, 0, 0. The alpha
     /// of specular is 1, that of the other two colours 0.
     constexpr Light3D();
+    /// All fields; the w of direction and position becomes 0.
     constexpr Light3D(Light3D const& other);
     /// The position comes before the direction, unlike in the record and the factories.
     constexpr Light3D(LIGHT_TYPE type_, Color3D<T> diffuse_, Color3D<T> specular_, Color3D<T> ambient_,
                       Vec4D<T> position_, Vec4D<T> direction_, T range_, T falloff_, T attenuation0_,
                       T attenuation1_, T attenuation2_, T theta_, T phi_);
 
+    /// All fields but the w of direction and position, which stay.
     constexpr Light3D const& operator=(Light3D const& other);
 };
 
@@ -52,6 +57,7 @@ constexpr Light3D<T> CreatePointLight(Color3D<T> diffuse, Color3D<T> specular, C
                                       std::type_identity_t<T> falloff, std::type_identity_t<T> attenuation0,
                                       std::type_identity_t<T> attenuation1,
                                       std::type_identity_t<T> attenuation2);
+/// A spot light: all is given.
 template <class T>
 constexpr Light3D<T> CreateSpotLight(Color3D<T> diffuse, Color3D<T> specular, Color3D<T> ambient,
                                      Vec4D<T> direction, Vec4D<T> position, std::type_identity_t<T> range,

@@ -14,8 +14,10 @@ class ITexture2D;
 template <class T>
 class VERTRA_API Material3D {
 public:
+    /// A renderer adds its own.
     enum MATERIAL_TYPE : int { MATERIAL_DEFAULT = 0 };
 
+    /// @{ For the renderer; nothing here reads it.
     Color3D<T> diffuse;
     Color3D<T> ambient;
     Color3D<T> specular;
@@ -34,11 +36,14 @@ public:
     int flag7;
     int flag8;
     int flag9;
+    /// @}
 
     /// Opaque white, emitting (0, 0, 0, 0), no textures, type and parameters 0, flags 0, 1, 1, 1, 1, 1, 1, 0,
     /// 0.
     constexpr Material3D();
+    /// All fields.
     constexpr Material3D(Material3D const& other);
+    /// All fields in order.
     constexpr Material3D(Color3D<T> const& diffuse_, Color3D<T> const& ambient_, Color3D<T> const& specular_,
                          Color3D<T> const& emissive_, T power_, ITexture2D<T>* texture1_,
                          ITexture2D<T>* texture2_, MATERIAL_TYPE type_, T typeParam_, int flag1_, int flag2_,
@@ -49,12 +54,14 @@ public:
                          MATERIAL_TYPE type_, T typeParam_, int flag1_, int flag2_, int flag3_, int flag4_,
                          int flag5_, int flag6_, int flag7_, int flag8_, int flag9_);
 
+    /// All fields.
     constexpr Material3D& operator=(Material3D const& other);
 
-    /// 1 for the object itself, and where all fields are equal: colours by their packed words, textures by
+    /// @{ 1 for the object itself, and where all fields are equal: colours by their packed words, textures by
     /// address, the rest exactly.
     constexpr int operator==(Material3D const& other) const;
     constexpr int operator!=(Material3D const& other) const { return !(*this == other); }
+    /// @}
 };
 
 template <class T>

@@ -9,8 +9,10 @@ namespace keel {
 /// The root of the polymorphic classes. The destructor is the first virtual operation of each.
 class VERTRA_API Base {
 public:
+    /// @{ Do nothing.
     Base();
     virtual ~Base();
+    /// @}
 };
 
 }  // namespace keel

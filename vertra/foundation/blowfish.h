@@ -29,9 +29,12 @@ class VERTRA_API CBlowFishEncrypterDecrypter : public IEncrypterDecrypter {
 public:
     /// 64 bits, big-endian in memory.
     struct _SBlock {  // NOLINT(bugprone-reserved-identifier): the engine's name
+        /// @{ The first and the last four bytes.
         std::uint32_t left;
         std::uint32_t right;
+        /// @}
     };
+    /// The modes of the formulas above.
     enum BLOWFISH_ENCRYPTION_MODE : std::int32_t { BLOWFISH_ECB = 0, BLOWFISH_CBC = 1, BLOWFISH_CFB = 2 };
 
     /// Overwrites the key schedule.
@@ -43,14 +46,16 @@ public:
     void SetKey(unsigned char const* key, std::size_t size) override;
     /// Eight bytes.
     void SetInitialChain(unsigned char const* bytes) override;
-    /// Throws `std::invalid_argument` in ECB and CBC for a size that is no multiple of 8, and
+    /// @{ Throws `std::invalid_argument` in ECB and CBC for a size that is no multiple of 8, and
     /// `std::logic_error` for a mode that is none of the three; so does Decrypt.
     void Encrypt(unsigned char const* in, unsigned char* out, std::size_t size) override;
     void Decrypt(unsigned char const* in, unsigned char* out, std::size_t size) override;
+    /// @}
 
-    /// Any value is stored; the chain is not touched.
+    /// @{ Any value is stored; the chain is not touched.
     void SetEncryptionMode(BLOWFISH_ENCRYPTION_MODE mode_);
     BLOWFISH_ENCRYPTION_MODE GetEncryptionMode() const;
+    /// @}
     /// Back to the initial chain, which is 0 unless it was set.
     void ResetChain();
 

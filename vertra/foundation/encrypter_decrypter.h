@@ -11,6 +11,7 @@ namespace keel {
 /// exception, has changed nothing and written nothing.
 class VERTRA_API IEncrypterDecrypter : public Base {
 public:
+    /// Does nothing.
     ~IEncrypterDecrypter() override;
 
     /// The number of bytes that go through the cipher at once.
@@ -19,12 +20,14 @@ public:
     virtual void SetKey(unsigned char const* key, std::size_t size) = 0;
     /// One block, from which the chain of a message starts; the chain is reset to it.
     virtual void SetInitialChain(unsigned char const* bytes) = 0;
-    /// The next size bytes of a message; in and out are one buffer or do not overlap. A size of 0 does
+    /// @{ The next size bytes of a message; in and out are one buffer or do not overlap. A size of 0 does
     /// nothing, whatever the state. Throws `std::logic_error` where no key is set.
     virtual void Encrypt(unsigned char const* in, unsigned char* out, std::size_t size) = 0;
     virtual void Decrypt(unsigned char const* in, unsigned char* out, std::size_t size) = 0;
+    /// @}
 
 protected:
+    /// Does nothing.
     IEncrypterDecrypter();
 };
 

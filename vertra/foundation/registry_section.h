@@ -14,8 +14,10 @@ class VERTRA_API CRegistry;
 /// there.
 class VERTRA_API CRegistrySection : public Base {
 public:
+    /// Values by their keys.
     std::map<std::string, std::string> entries;
     CRegistry* registry;  ///< where the section belongs, or null; not owned and never called
+    /// Any, an empty one too.
     std::string name;
 
     /// No entries yet; any name, an empty one too.

@@ -8,8 +8,10 @@ namespace keel {
 /// A part of the engine that others use and do not own: it is made and destroyed by its own code only.
 class VERTRA_API IService : public Base {
 protected:
+    /// @{ Do nothing.
     IService();
     ~IService() override;
+    /// @}
 };
 
 }  // namespace keel

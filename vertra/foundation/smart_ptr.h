@@ -21,14 +21,17 @@ public:
     T* pointer = nullptr;        ///< the same in all that share a counter
     Counter* counter = nullptr;  ///< null in an empty pointer
 
+    /// Empty.
     SmartPtr();
     /// The first share in an object that has none yet; a null pointer gives an empty one. Where the counter
     /// cannot be allocated the object stays the caller's.
     explicit SmartPtr(T* object) : pointer(object), counter(object ? new Counter{1} : nullptr) {}
+    /// One more share, or an empty pointer from an empty one.
     SmartPtr(SmartPtr const& other) : pointer(other.pointer) { Acquire(other.counter); }
     /// Takes over the share of other, which is left empty.
     SmartPtr(SmartPtr&& other) noexcept
         : pointer(std::exchange(other.pointer, nullptr)), counter(std::exchange(other.counter, nullptr)) {}
+    /// Lets go of the share, as Release does.
     ~SmartPtr() { Release(); }
 
     /// Copies or moves, and lets go of the old share last: the old object may own the new one.
@@ -37,12 +40,16 @@ public:
     /// Leaves the pointer empty. 1 when that was the last share, and the object is deleted; 0 else.
     int Release();
 
+    /// @{ The object; null, false and not to be followed in an empty pointer.
     T* Get() const { return pointer; }
     T* operator->() const { return pointer; }
     T& operator*() const { return *pointer; }
     explicit operator bool() const { return pointer != nullptr; }
+    /// @}
+    /// @{ By the address of the object.
     bool operator==(SmartPtr const& other) const { return pointer == other.pointer; }
     bool operator==(T const* object) const { return pointer == object; }
+    /// @}
 
 private:
     void Acquire(Counter* shared);

@@ -22,10 +22,12 @@ namespace keel {
 template <class Container>
 class VERTRA_API Tree : public Base {
 public:
+    /// @{ Those of the container, and the node class it points to.
     using value_type = typename Container::value_type;
     using iterator = typename Container::iterator;
     using const_iterator = typename Container::const_iterator;
     using Node = typename std::pointer_traits<value_type>::element_type;
+    /// @}
 
     Container children;  ///< in the order of appending
     iterator cursor;     ///< at the disposal of derived classes; nothing here reads or moves it
@@ -45,12 +47,15 @@ public:
     /// one that was built with this parent, is here twice.
     void push_back(value_type const& child) { children.push_back(child); }
 
+    /// @{ Those of the children.
     iterator begin() { return children.begin(); }
     iterator end() { return children.end(); }
     const_iterator begin() const { return children.begin(); }
     const_iterator end() const { return children.end(); }
     std::size_t size() const { return children.size(); }
     bool empty() const { return children.empty(); }
+    /// @}
+    /// The parent; null for a root.
     Node* GetParent() const { return AsNode(parent); }
 
 private:
@@ -65,20 +70,26 @@ class VERTRA_API TreeDeque;
 class VERTRA_API SmartTreeVector;
 class VERTRA_API SmartTreeList;
 
+/// A node with raw pointers in a vector.
 class VERTRA_API TreeVector : public Tree<std::vector<TreeVector*>> {
 public:
+    /// As `Tree`'s.
     explicit TreeVector(TreeVector* parent_);
     ~TreeVector() override;
 };
 
+/// A node with raw pointers in a list.
 class VERTRA_API TreeList : public Tree<std::list<TreeList*>> {
 public:
+    /// As `Tree`'s.
     explicit TreeList(TreeList* parent_);
     ~TreeList() override;
 };
 
+/// A node with raw pointers in a deque.
 class VERTRA_API TreeDeque : public Tree<std::deque<TreeDeque*>> {
 public:
+    /// As `Tree`'s.
     explicit TreeDeque(TreeDeque* parent_);
     ~TreeDeque() override;
 };
@@ -92,6 +103,7 @@ public:
 /// then has its share and would delete the node again.
 class VERTRA_API SmartTreeVector : public Tree<std::vector<SmartPtr<SmartTreeVector>>> {
 public:
+    /// As `Tree`'s.
     explicit SmartTreeVector(SmartTreeVector* parent_);
     ~SmartTreeVector() override;
 };
@@ -99,6 +111,7 @@ public:
 /// Depth and derived classes are bounded as with `SmartTreeVector`.
 class VERTRA_API SmartTreeList : public Tree<std::list<SmartPtr<SmartTreeList>>> {
 public:
+    /// As `Tree`'s.
     explicit SmartTreeList(SmartTreeList* parent_);
     ~SmartTreeList() override;
 };

@@ -9,10 +9,12 @@
 
 #include <Eigen/Geometry>
 
+/// @file
 /// To Eigen and back, exactly. A w goes both ways: a Vec4D initialised from FromEigen has it, while one that
 /// is assigned keeps its own, as ever. A color is FromVector(FromEigen(c)).
 namespace vertra {
 
+/// @{ Component by component.
 template <class T>
 Eigen::Matrix<T, 4, 1> ToEigen(Vec4D<T> const& v) {
     return {v.x, v.y, v.z, v.w};
@@ -29,6 +31,7 @@ template <class T>
 Eigen::Matrix<T, 4, 1> ToEigen(Color3D<T> const& c) {
     return {c.r, c.g, c.b, c.a};
 }
+/// @}
 /// The transpose, for vectors that are columns: `ToEigen(m) * p` is the point of `v * m`, and ToEigen(a * b)
 /// is `ToEigen(b) * ToEigen(a)`. In Eigen's own order of storage, columns, it is the same sixteen numbers.
 template <class T>
@@ -61,6 +64,7 @@ auto FromEigen(Eigen::MatrixBase<Expression> const& expression) {
         return Vec2D<T>(e.x(), e.y());
     }
 }
+/// The inverse, number by number.
 template <class Expression>
 auto FromEigen(Eigen::QuaternionBase<Expression> const& q) {
     return Quat3D<typename Expression::Scalar>(q.x(), q.y(), q.z(), q.w());

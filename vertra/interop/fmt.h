@@ -13,6 +13,7 @@
 #include <fmt/format.h>
 #endif
 
+/// @file
 /// For libfmt, and for std::format where the standard library has it: the text that `ostream.h` describes. A
 /// format is one of a scalar and applies to each, {:.3f} or {:a}; without one, {}, each has the shortest
 /// digits that read back as the same number.

@@ -14,10 +14,12 @@
 #include <glm/vec3.hpp>
 #include <glm/vec4.hpp>
 
+/// @file
 /// To glm and back, exactly. A w goes both ways: a Vec4D initialised from FromGlm has it, while one that is
 /// assigned keeps its own, as ever. A color is FromVector(FromGlm(c)).
 namespace vertra {
 
+/// @{ Component by component.
 template <class T>
 constexpr glm::vec<4, T> ToGlm(Vec4D<T> const& v) {
     return {v.x, v.y, v.z, v.w};
@@ -34,6 +36,7 @@ template <class T>
 constexpr glm::vec<4, T> ToGlm(Color3D<T> const& c) {
     return {c.r, c.g, c.b, c.a};
 }
+/// @}
 /// The same sixteen numbers in memory: our rows are glm's columns. So `ToGlm(m) * p` is the point of
 /// `v * m`, and ToGlm(a * b) is `ToGlm(b) * ToGlm(a)`.
 template <class T>
@@ -48,6 +51,7 @@ constexpr glm::qua<T> ToGlm(Quat3D<T> const& q) {
     return {q.w, q.x, q.y, q.z};
 }
 
+/// @{ The inverse, number by number.
 template <class T, glm::qualifier Q>
 constexpr Vec4D<T> FromGlm(glm::vec<4, T, Q> const& v) {
     return Vec4D<T>(v.x, v.y, v.z, v.w);
@@ -68,5 +72,6 @@ template <class T, glm::qualifier Q>
 constexpr Quat3D<T> FromGlm(glm::qua<T, Q> const& q) {
     return Quat3D<T>(q.x, q.y, q.z, q.w);
 }
+/// @}
 
 }  // namespace vertra

@@ -42,16 +42,21 @@ std::size_t Hash(X const& x) {
 
 }  // namespace vertra::detail
 
+namespace std {
+
 /// Equal objects have equal hashes, by the type's own `==`: w counts, +0 and -0 are alike, colours hash by
 /// their packed word. What is no value of `==` has no hash.
 ///
 /// A container copies what it stores, and a copy of a vector has w = 0: look up what was put in with a w by a
 /// copy too. The `==` of `Line3D` is not const, so a set of lines needs an equality of its own.
 template <vertra::detail::Primitive X>
-struct std::hash<X> {
+struct hash<X> {
     static_assert(!vertra::detail::is_equal_within_tolerance<X>,
                   "no hash agrees with an == that has a tolerance: equals of equals need not be equal");
     static_assert(vertra::detail::HasEquality<X>,
                   "no hash for a type without ==: nothing says which of its objects are alike");
+    /// Of the fields.
     std::size_t operator()(X const& x) const { return vertra::detail::Hash(x); }
 };
+
+}  // namespace std

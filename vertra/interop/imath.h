@@ -12,10 +12,12 @@
 #include <Imath/ImathQuat.h>
 #include <Imath/ImathVec.h>
 
+/// @file
 /// To Imath and back, exactly. A w goes both ways: a Vec4D initialised from FromImath has it, while one that
 /// is assigned keeps its own, as ever.
 namespace vertra {
 
+/// @{ Component by component.
 template <class T>
 constexpr Imath::Vec4<T> ToImath(Vec4D<T> const& v) {
     return {v.x, v.y, v.z, v.w};
@@ -32,6 +34,7 @@ template <class T>
 constexpr Imath::Color4<T> ToImath(Color3D<T> const& c) {
     return {c.r, c.g, c.b, c.a};
 }
+/// @}
 /// The same matrix: both have rows for points, and the same order in memory. `p * ToImath(m)` is the point
 /// of `v * m`, but divided by its w.
 template <class T>
@@ -48,6 +51,7 @@ constexpr Imath::Quat<T> ToImath(Quat3D<T> const& q) {
     return {q.w, q.x, q.y, q.z};
 }
 
+/// @{ The inverse, number by number.
 template <class T>
 constexpr Vec4D<T> FromImath(Imath::Vec4<T> const& v) {
     return Vec4D<T>(v.x, v.y, v.z, v.w);
@@ -72,5 +76,6 @@ template <class T>
 constexpr Quat3D<T> FromImath(Imath::Quat<T> const& q) {
     return Quat3D<T>(q.v.x, q.v.y, q.v.z, q.r);
 }
+/// @}
 
 }  // namespace vertra

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <type_traits>
 
+/// @file
 /// A type with an array view converts to a pointer to its first scalar. These deleted operators keep
 /// arithmetic, comparison and negation from falling through to that pointer: what the type does not define
 /// does not compile. The operators that a type does define win, being more specialised.

@@ -9,23 +9,28 @@ namespace vertra {
 template <class T>
 class VERTRA_API Dimension2D {
 public:
+    /// @{ In memory in this order, without gaps.
     T width;
     T height;
+    /// @}
 
     /// (0, 0).
     constexpr Dimension2D() : Dimension2D(T(0), T(0)) {}
+    /// Each as given.
     constexpr Dimension2D(T a, T b) : width(a), height(b) {}
     /// (s, s).
     constexpr Dimension2D(T s) : Dimension2D(s, s) {}
+    /// Both extents.
     constexpr Dimension2D(Dimension2D const& other);
 
+    /// Both extents.
     constexpr Dimension2D& operator=(Dimension2D const& other);
 
     /// The area, not a length.
     constexpr T GetSize() const { return width * height; }
 };
 
-/// 1 where each field is equal within 1e-5 of the left operand's. So it is not symmetric, and a NaN equals
+/// @{ 1 where each field is equal within 1e-5 of the left operand's. So it is not symmetric, and a NaN equals
 /// nothing, not even itself.
 template <class T>
 constexpr int operator==(Dimension2D<T> const& a, Dimension2D<T> const& b) {
@@ -35,6 +40,7 @@ template <class T>
 constexpr int operator!=(Dimension2D<T> const& a, Dimension2D<T> const& b) {
     return !(a == b);
 }
+/// @}
 
 template <class T>
 constexpr Dimension2D<T>::Dimension2D(Dimension2D const&) = default;

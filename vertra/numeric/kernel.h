@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <type_traits>
 
+/// @file
 /// The numeric kernel: the one square root, and the only places that look at the bits of a number.
 /// Internal to the library: nothing here is exported.
 namespace vertra {

@@ -13,34 +13,44 @@ namespace vertra {
 template <class T>
 class VERTRA_API Position2D {
 public:
+    /// @{ In memory in this order, without gaps.
     T x;
     T y;
+    /// @}
 
     /// (0, 0).
     constexpr Position2D() : Position2D(T(0), T(0)) {}
+    /// Each as given.
     constexpr Position2D(T a, T b) : x(a), y(b) {}
     /// (s, s) from a variable, which is only read.
     constexpr Position2D(T& s) : Position2D(s, s) {}
     /// (p[0], p[1]).
     constexpr Position2D(T const* p) : Position2D(p[0], p[1]) {}
+    /// Both coordinates.
     constexpr Position2D(Position2D const& other);
     Position2D(std::nullptr_t) = delete;
     Position2D(ArrayView auto const&) = delete;
 
+    /// Both coordinates.
     constexpr Position2D& operator=(Position2D const& other);
 
+    /// @{ Coordinate by coordinate.
     constexpr Position2D const& operator+=(Position2D const& b) { return *this = *this + b; }
     constexpr Position2D const& operator-=(Position2D const& b) { return *this = *this - b; }
     constexpr Position2D const& operator*=(T s) { return *this = *this * s; }
     constexpr Position2D const& operator*=(Position2D const& b) { return *this = *this * b; }
+    /// @}
+    /// Times 1 / s.
     constexpr Position2D const& operator/=(T s) { return *this = *this / s; }
 
-    /// 1 for the object itself, whatever it holds, and where each field is equal within 1e-5 of the left
+    /// @{ 1 for the object itself, whatever it holds, and where each field is equal within 1e-5 of the left
     /// operand's. So it is not symmetric.
     constexpr int operator==(Position2D const& b) const;
     constexpr int operator!=(Position2D const& b) const { return !(*this == b); }
+    /// @}
 };
 
+/// @{ Coordinate by coordinate.
 template <class T>
 constexpr Position2D<T> operator+(Position2D<T> const& a, Position2D<T> const& b) {
     return Position2D<T>(a.x + b.x, a.y + b.y);
@@ -49,11 +59,13 @@ template <class T>
 constexpr Position2D<T> operator-(Position2D<T> const& a, Position2D<T> const& b) {
     return Position2D<T>(a.x - b.x, a.y - b.y);
 }
+/// @}
 /// (a.x * b.x, a.y * b.y).
 template <class T>
 constexpr Position2D<T> operator*(Position2D<T> const& a, Position2D<T> const& b) {
     return Position2D<T>(a.x * b.x, a.y * b.y);
 }
+/// @{ Both coordinates.
 template <class T>
 constexpr Position2D<T> operator*(Position2D<T> const& a, std::type_identity_t<T> s) {
     return Position2D<T>(a.x * s, a.y * s);
@@ -62,6 +74,7 @@ template <class T>
 constexpr Position2D<T> operator*(std::type_identity_t<T> s, Position2D<T> const& a) {
     return a * s;
 }
+/// @}
 /// a * (1 / s): one division. s = 0 gives infinities and NaNs.
 template <class T>
 constexpr Position2D<T> operator/(Position2D<T> const& a, std::type_identity_t<T> s) {

@@ -13,29 +13,38 @@ namespace vertra {
 template <class T>
 class VERTRA_API Vec2D {
 public:
+    /// @{ In memory in this order, without gaps.
     T x;
     T y;
+    /// @}
 
     /// (0, 0).
     constexpr Vec2D() : Vec2D(T(0), T(0)) {}
+    /// Each as given.
     constexpr Vec2D(T a, T b) : x(a), y(b) {}
     /// (s, s). A literal 0 is ambiguous with a null pointer and does not compile.
     constexpr Vec2D(T s) : Vec2D(s, s) {}
     /// (p[0], p[1]).
     constexpr Vec2D(T const* p) : Vec2D(p[0], p[1]) {}
+    /// Both components.
     constexpr Vec2D(Vec2D const& v);
     Vec2D(std::nullptr_t) = delete;
     Vec2D(ArrayView auto const&) = delete;
 
+    /// Both components.
     constexpr Vec2D const& operator=(Vec2D const& v);
 
-    /// Component i, 0 or 1; not range-checked.
+    /// @{ Component i, 0 or 1; not range-checked.
     constexpr T& operator[](unsigned int i) { return i == 0 ? x : y; }
     constexpr T const& operator[](unsigned int i) const { return i == 0 ? x : y; }
+    /// @}
 
+    /// @{ Component by component.
     constexpr Vec2D const& operator+=(Vec2D const& b) { return *this = *this + b; }
     constexpr Vec2D const& operator-=(Vec2D const& b) { return *this = *this - b; }
     constexpr Vec2D const& operator*=(T s) { return *this = *this * s; }
+    /// @}
+    /// Times 1 / s.
     constexpr Vec2D const& operator/=(T s) { return *this = *this / s; }
     /// The dot product.
     constexpr T operator*(Vec2D const& b) const { return x * b.x + y * b.y; }
@@ -44,6 +53,7 @@ public:
     constexpr int IsZero() const { return x == 0 && y == 0; }
 };
 
+/// @{ Component by component.
 template <class T>
 constexpr Vec2D<T> operator+(Vec2D<T> const& a, Vec2D<T> const& b) {
     return Vec2D<T>(a.x + b.x, a.y + b.y);
@@ -64,11 +74,13 @@ template <class T>
 constexpr Vec2D<T> operator*(std::type_identity_t<T> s, Vec2D<T> const& a) {
     return a * s;
 }
+/// @}
 /// a * (1 / s): one division. s = 0 gives infinities and NaNs.
 template <class T>
 constexpr Vec2D<T> operator/(Vec2D<T> const& a, std::type_identity_t<T> s) {
     return a * (T(1) / s);
 }
+/// @{ Exact.
 template <class T>
 constexpr int operator==(Vec2D<T> const& a, Vec2D<T> const& b) {
     return a.x == b.x && a.y == b.y;
@@ -77,6 +89,7 @@ template <class T>
 constexpr int operator!=(Vec2D<T> const& a, Vec2D<T> const& b) {
     return !(a == b);
 }
+/// @}
 
 /// The squared length.
 template <class T>

@@ -25,23 +25,28 @@ inline constexpr bool compares_with_scalar<Vec3D<T>> = true;
 template <class T>
 class VERTRA_API Vec3D {
 public:
+    /// @{ In memory in this order, without gaps.
     T x;
     T y;
     T z;
+    /// @}
 
     /// (0, 0, 0).
     constexpr Vec3D() : Vec3D(T(0), T(0), T(0)) {}
     /// (s, s, s). A literal 0 is ambiguous with a null pointer and does not compile.
     constexpr Vec3D(T s) : Vec3D(s, s, s) {}
+    /// Each as given.
     constexpr Vec3D(T x_, T y_, T z_, T = T(0)) : x(x_), y(y_), z(z_) {}
     /// (p[0], p[1], p[2]).
     constexpr Vec3D(T const* p, T = T(0)) : Vec3D(p[0], p[1], p[2]) {}
+    /// The copy is exact; the second argument has no effect.
     constexpr Vec3D(Vec3D const& v, T = T(0));
     /// Drops v.w.
     constexpr Vec3D(Vec4D<T> const& v) : Vec3D(v.x, v.y, v.z) {}
     Vec3D(std::nullptr_t, T = T(0)) = delete;
     Vec3D(ArrayView auto const&, T = T(0)) = delete;
 
+    /// All three components.
     constexpr Vec3D const& operator=(Vec3D const& v) { return Set(v.x, v.y, v.z); }
     /// Drops v.w.
     constexpr Vec3D const& operator=(Vec4D<T> const& v) { return Set(v.x, v.y, v.z); }
@@ -49,28 +54,34 @@ public:
     constexpr Vec3D const& operator=(T const* p) { return Set(p[0], p[1], p[2]); }
     Vec3D const& operator=(std::nullptr_t) = delete;
     Vec3D const& operator=(ArrayView auto const&) = delete;
+    /// All three components.
     constexpr Vec3D const& Set(T x_, T y_, T z_);
 
-    /// Component i, 0 to 2 in the order x, y, z; not range-checked.
+    /// @{ Component i, 0 to 2 in the order x, y, z; not range-checked.
     constexpr T& operator[](int i) { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T& operator[](unsigned int i) { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T& operator[](WideIndex i);
     constexpr T const& operator[](int i) const { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T const& operator[](unsigned int i) const { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T const& operator[](WideIndex i) const;
-    /// The array view: three scalars from x on.
+    /// @}
+    /// @{ The array view: three scalars from x on.
     constexpr operator T*() { return &x; }
     constexpr operator T const*() const { return &x; }
+    /// @}
     explicit operator bool() = delete;
     explicit operator bool() const = delete;
 
+    /// @{ Component by component.
     constexpr Vec3D const& operator+=(Vec3D const& b) { return *this = *this + b; }
     constexpr Vec3D const& operator-=(Vec3D const& b) { return *this = *this - b; }
     constexpr Vec3D const& operator*=(T s) { return *this = *this * s; }
+    /// @}
     /// Component by component, not testing for zero.
     constexpr Vec3D const& operator/=(Vec3D const& b) { return Set(x / b.x, y / b.y, z / b.z); }
 };
 
+/// @{ Component by component.
 template <class T>
 constexpr Vec3D<T> operator+(Vec3D<T> const& a, Vec3D<T> const& b) {
     return Vec3D<T>(a.x + b.x, a.y + b.y, a.z + b.z);
@@ -95,6 +106,7 @@ template <class T>
 constexpr Vec3D<T> operator*(std::type_identity_t<T> s, Vec3D<T> const& a) {
     return a * s;
 }
+/// @}
 /// a * (1 / s): one division. s = 0 gives infinities and NaNs.
 template <class T>
 constexpr Vec3D<T> operator/(Vec3D<T> const& a, std::type_identity_t<T> s) {
@@ -115,6 +127,7 @@ template <class T>
 constexpr T operator*(Vec3D<T> const& a, Vec3D<T> const& b) {
     return a.x * b.x + a.y * b.y + a.z * b.z;
 }
+/// @{ Exact, over all three components.
 template <class T>
 constexpr int operator==(Vec3D<T> const& a, Vec3D<T> const& b) {
     return a.x == b.x && a.y == b.y && a.z == b.z;
@@ -139,8 +152,9 @@ template <class T>
 constexpr int operator>=(Vec3D<T> const& a, Vec3D<T> const& b) {
     return b <= a;
 }
+/// @}
 
-/// A scalar is compared with all three components.
+/// @{ A scalar is compared with all three components.
 template <class T>
 constexpr int operator==(Vec3D<T> const& a, std::type_identity_t<T> s) {
     return a == Vec3D<T>(s);
@@ -189,6 +203,7 @@ template <class T>
 constexpr int operator>=(std::type_identity_t<T> s, Vec3D<T> const& a) {
     return a <= s;
 }
+/// @}
 /// 1 for the zero vector, 0 otherwise: the opposite sense of `Vec4D`.
 template <class T>
 constexpr int operator!(Vec3D<T> const& a) {

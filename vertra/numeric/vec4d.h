@@ -33,6 +33,7 @@ inline constexpr bool compares_with_scalar<Vec4D<T>> = true;
 /// - compound: `+=`, `-=`, `*= s` act on w, `/=` where the divisor's w is not 0;
 /// - measured: the dot product, Len2 and Len count w, the distances between two points do not;
 /// - compared: every comparison counts w.
+///
 /// They keep a w that somebody set on purpose from leaking into results, and let storage carry one.
 ///
 /// Comparisons are exact and hold when they hold for all components, so a < b and a >= b can both be 0.
@@ -40,48 +41,59 @@ inline constexpr bool compares_with_scalar<Vec4D<T>> = true;
 template <class T>
 class VERTRA_API Vec4D {
 public:
+    /// @{ In memory in this order, without gaps.
     T x;
     T y;
     T z;
+    /// @}
     T w;  ///< 0 unless set explicitly
 
     /// (0, 0, 0, 0).
     constexpr Vec4D() : Vec4D(T(0), T(0), T(0)) {}
     /// (s, s, s, 0): w is not filled. A literal 0 is ambiguous with a null pointer and does not compile.
     constexpr Vec4D(T s) : Vec4D(s, s, s) {}
+    /// Each as given.
     constexpr Vec4D(T x_, T y_, T z_, T w_ = T(0)) : x(x_), y(y_), z(z_), w(w_) {}
     /// (p[0], p[1], p[2], w_): reads three scalars.
     constexpr Vec4D(T const* p, T w_ = T(0)) : Vec4D(p[0], p[1], p[2], w_) {}
     /// The copy has the w that it is given, not that of v.
     constexpr Vec4D(Vec4D const& v, T w_ = T(0));
+    /// w is 0.
     constexpr Vec4D(Vec3D<T> const& v);  // defined with Vec3D
     Vec4D(std::nullptr_t, T = T(0)) = delete;
     Vec4D(ArrayView auto const&, T = T(0)) = delete;
 
+    /// @{ Writes x, y and z; w stays.
     constexpr Vec4D const& operator=(Vec4D const& v) { return Set(v.x, v.y, v.z); }
     constexpr Vec4D const& operator=(Vec3D<T> const& v);  // defined with Vec3D
-    /// x, y, z from p[0], p[1], p[2].
+    /// @}
+    /// x, y, z from p[0], p[1], p[2]; w stays.
     constexpr Vec4D const& operator=(T const* p) { return Set(p[0], p[1], p[2]); }
     Vec4D const& operator=(std::nullptr_t) = delete;
     Vec4D const& operator=(ArrayView auto const&) = delete;
+    /// Writes x, y and z; w stays.
     constexpr Vec4D const& Set(T x_, T y_, T z_);
 
-    /// Component i, 0 to 3 in the order x, y, z, w; not range-checked.
+    /// @{ Component i, 0 to 3 in the order x, y, z, w; not range-checked.
     constexpr T& operator[](int i) { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T& operator[](unsigned int i) { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T& operator[](WideIndex i);
     constexpr T const& operator[](int i) const { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T const& operator[](unsigned int i) const { return (*this)[static_cast<WideIndex>(i)]; }
     constexpr T const& operator[](WideIndex i) const;
-    /// The array view: four scalars from x on.
+    /// @}
+    /// @{ The array view: four scalars from x on.
     constexpr operator T*() { return &x; }
     constexpr operator T const*() const { return &x; }
+    /// @}
     explicit operator bool() = delete;
     explicit operator bool() const = delete;
 
+    /// @{ On all four components.
     constexpr Vec4D const& operator+=(Vec4D const& b);
     constexpr Vec4D const& operator-=(Vec4D const& b);
     constexpr Vec4D const& operator*=(T s);
+    /// @}
     /// Component by component; w is divided only where b.w is not 0. So `v /= Vec4D(s)` leaves w alone.
     constexpr Vec4D const& operator/=(Vec4D const& b);
     /// The point (x, y, z, 1) times the matrix, on all four components: the one product that yields a w.
@@ -92,6 +104,7 @@ public:
     constexpr Vec4D const& SetLength(T s);
 };
 
+/// @{ On x, y and z; w is 0.
 template <class T>
 constexpr Vec4D<T> operator+(Vec4D<T> const& a, Vec4D<T> const& b) {
     return Vec4D<T>(a.x + b.x, a.y + b.y, a.z + b.z);
@@ -116,6 +129,7 @@ template <class T>
 constexpr Vec4D<T> operator*(std::type_identity_t<T> s, Vec4D<T> const& a) {
     return a * s;
 }
+/// @}
 /// a * (1 / s): one division. s = 0 gives infinities and NaNs.
 template <class T>
 constexpr Vec4D<T> operator/(Vec4D<T> const& a, std::type_identity_t<T> s) {
@@ -147,6 +161,7 @@ constexpr void CrossProduct(Vec4D<T> const& a, Vec4D<T> const& b, Vec4D<T>& out)
     out = a ^ b;
 }
 
+/// @{ Exact, over all four components.
 template <class T>
 constexpr int operator==(Vec4D<T> const& a, Vec4D<T> const& b) {
     return a.x == b.x && a.y == b.y && a.z == b.z && a.w == b.w;
@@ -171,8 +186,9 @@ template <class T>
 constexpr int operator>=(Vec4D<T> const& a, Vec4D<T> const& b) {
     return b <= a;
 }
+/// @}
 
-/// A scalar is compared with all four components: `Vec4D(2) == 2` is 0, for its w is 0.
+/// @{ A scalar is compared with all four components: `Vec4D(2) == 2` is 0, for its w is 0.
 template <class T>
 constexpr int operator==(Vec4D<T> const& a, std::type_identity_t<T> s) {
     return a == Vec4D<T>(s, s, s, s);
@@ -221,6 +237,7 @@ template <class T>
 constexpr int operator>=(std::type_identity_t<T> s, Vec4D<T> const& a) {
     return a <= s;
 }
+/// @}
 /// 1 for a vector with a component that is not 0, 0 for the zero vector: the zero vector is the false case.
 template <class T>
 constexpr int operator!(Vec4D<T> const& a) {

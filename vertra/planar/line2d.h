@@ -28,13 +28,16 @@ enum LINE2D_CLASSIFICATION {
 template <class T>
 class VERTRA_API Line2D {
 public:
+    /// @{ To be written by SetPoints, or with normalValid cleared.
     Vec2D<T> start;
     Vec2D<T> end;
+    /// @}
     mutable Vec2D<T> normal;  ///< meaningful while normalValid is 1
-    mutable int normalValid;
+    mutable int normalValid;  ///< 1 when normal is that of the points
 
     /// All zeros.
     constexpr Line2D() : Line2D(Vec2D<T>(), Vec2D<T>()) {}
+    /// From a to b, without a normal yet.
     constexpr Line2D(Vec2D<T> const& a, Vec2D<T> const& b) : start(a), end(b), normal(), normalValid(0) {}
     /// Copies the points alone, not the cached normal.
     constexpr Line2D(Line2D const& l) : Line2D(l.start, l.end) {}
@@ -42,8 +45,10 @@ public:
     /// Copies everything, the cached normal and its state included.
     constexpr Line2D& operator=(Line2D const& l);
 
+    /// @{ From the first point to the second; the normal is forgotten.
     constexpr void SetPoints(Vec2D<T> const& a, Vec2D<T> const& b);
     constexpr void SetPoints(T x1, T y1, T x2, T y2) { SetPoints(Vec2D<T>(x1, y1), Vec2D<T>(x2, y2)); }
+    /// @}
 
     /// The unit normal; zero for a line of no length.
     constexpr Vec2D<T> const& Normal() const;
@@ -51,6 +56,7 @@ public:
     constexpr void ComputeNormal() const;
     /// The unit direction, by the rules of Normalize.
     constexpr void GetDirection(Vec2D<T>& out) const { out = Normalize(end - start); }
+    /// By Len.
     constexpr T Length() const { return Len(end - start); }
     /// The distance from the infinite line, positive on the side that the normal points to.
     constexpr T SignedDistance(Vec2D<T> const& p) const { return (p - start) * Normal(); }

@@ -14,24 +14,33 @@ namespace vertra {
 template <class T>
 class VERTRA_API Rect2D {
 public:
+    /// @{ In memory in this order, without gaps.
     Position2D<T> topLeft;
     Position2D<T> bottomRight;
+    /// @}
 
     /// All zeros.
     constexpr Rect2D() : topLeft(), bottomRight() {}
+    /// @{ The corners as given.
     constexpr Rect2D(T left, T top, T right, T bottom) : topLeft(left, top), bottomRight(right, bottom) {}
     constexpr Rect2D(Position2D<T> const& a, Position2D<T> b) : topLeft(a), bottomRight(b) {}
+    /// @}
+    /// From p, as wide and high as d.
     constexpr Rect2D(Position2D<T> const& p, Dimension2D<T> const& d)
         : topLeft(p), bottomRight(p.x + d.width, p.y + d.height) {}
+    /// All four edges.
     constexpr Rect2D(Rect2D const& other);
 
+    /// All four edges.
     constexpr Rect2D const& operator=(Rect2D const& other);
 
     /// right - left, negative for an inverted rectangle.
     constexpr T Width() const { return bottomRight.x - topLeft.x; }
     /// bottom - top, negative for an inverted rectangle.
     constexpr T Height() const { return bottomRight.y - topLeft.y; }
+    /// Width and Height.
     constexpr Dimension2D<T> Size() const { return Dimension2D<T>(Width(), Height()); }
+    /// Half way between the corners.
     constexpr Position2D<T> Center() const {
         return Position2D<T>(topLeft.x + Width() * T(0.5), topLeft.y + Height() * T(0.5));
     }
@@ -42,10 +51,11 @@ public:
     constexpr int IsCollided(Rect2D const& r) const;
     /// 1 when it is not inverted and not of zero size, though one extent may be 0; also for a NaN extent.
     constexpr int IsValid();
-    /// 1 for the object itself, and where the corners of b equal those of this by the tolerant equality of
+    /// @{ 1 for the object itself, and where the corners of b equal those of this by the tolerant equality of
     /// `Position2D`, measured against b.
     constexpr int operator==(Rect2D const& b) const;
     constexpr int operator!=(Rect2D const& b) const { return !(*this == b); }
+    /// @}
 
     /// Swaps the edges of each axis that is inverted.
     constexpr Rect2D const& Repair();
@@ -56,30 +66,35 @@ public:
     constexpr Rect2D const& operator&=(Rect2D const& r);
     /// Each field becomes the larger of the two: no union.
     constexpr Rect2D const& operator|=(Rect2D const& r);
+    /// @{ Shifts both corners.
     constexpr Rect2D const& operator+=(Position2D<T> const& p) { return Offset(p.x, p.y); }
     constexpr Rect2D const& operator-=(Position2D<T> const& p);
     constexpr Rect2D const& Offset(Position2D<T> const& p) { return Offset(p.x, p.y); }
     constexpr Rect2D const& Offset(T x, T y);
+    /// @}
     /// Shifts by (x, y), like Offset.
     constexpr Rect2D const& Move(T x, T y) { return Offset(x, y); }
     /// Brings topLeft to p.
     constexpr Rect2D const& Move(Position2D<T> const& p) { return Offset(p - topLeft); }
-    /// Moves each edge outward.
+    /// @{ Moves each edge outward.
     constexpr Rect2D const& Inflate(T l, T t, T r, T b);
     constexpr Rect2D const& Inflate(Position2D<T> const& a, Position2D<T> const& b) {
         return Inflate(a.x, a.y, b.x, b.y);
     }
     constexpr Rect2D const& Inflate(T x, T y) { return Inflate(x, y, x, y); }
     constexpr Rect2D const& Inflate(Position2D<T> const& d) { return Inflate(d.x, d.y); }
-    /// Moves each edge inward, past the other if need be.
+    /// @}
+    /// @{ Moves each edge inward, past the other if need be.
     constexpr Rect2D const& Deflate(T l, T t, T r, T b);
     constexpr Rect2D const& Deflate(Position2D<T> const& a, Position2D<T> const& b) {
         return Deflate(a.x, a.y, b.x, b.y);
     }
     constexpr Rect2D const& Deflate(T x, T y) { return Deflate(x, y, x, y); }
     constexpr Rect2D const& Deflate(Position2D<T> const& d) { return Deflate(d.x, d.y); }
+    /// @}
 };
 
+/// @{ Shifted by p.
 template <class T>
 constexpr Rect2D<T> operator+(Rect2D<T> const& r, Position2D<T> const& p) {
     return Rect2D<T>(r.topLeft + p, r.bottomRight + p);
@@ -92,6 +107,7 @@ template <class T>
 constexpr Rect2D<T> operator-(Rect2D<T> const& r, Position2D<T> const& p) {
     return Rect2D<T>(r.topLeft - p, r.bottomRight - p);
 }
+/// @}
 /// r - p: no reflection.
 template <class T>
 constexpr Rect2D<T> operator-(Position2D<T> const& p, Rect2D<T> const& r) {

@@ -36,30 +36,40 @@ class VERTRA_API Triangle3D;
 template <class T>
 class VERTRA_API AABBox3D {
 public:
+    /// @{ The low and the high corner.
     Vec4D<T> min;
     Vec4D<T> max;
+    /// @}
 
     /// The reset box.
     constexpr AABBox3D() : min(std::numeric_limits<float>::max()), max(-std::numeric_limits<float>::max()) {}
+    /// The w of both corners becomes 0.
     constexpr AABBox3D(AABBox3D const& other);
-    /// Low and high corner as given.
+    /// @{ Low and high corner as given.
     constexpr AABBox3D(Vec4D<T> const& low, Vec4D<T> const& high) : min(low), max(high) {}
     constexpr AABBox3D(T x1, T y1, T z1, T x2, T y2, T z2) : min(x1, y1, z1), max(x2, y2, z2) {}
+    /// @}
 
+    /// x, y, z of both corners; their w stays.
     constexpr AABBox3D const& operator=(AABBox3D const& other) { return Reset(other); }
+    /// Back to the inverted box; w stays.
     constexpr AABBox3D const& Reset();
-    /// The box of one point.
+    /// @{ The box of one point.
     constexpr AABBox3D const& Reset(T x, T y, T z) { return Reset(Vec4D<T>(x, y, z)); }
     constexpr AABBox3D const& Reset(Vec4D<T> const& point);
+    /// @}
+    /// x, y, z of both corners; their w stays.
     constexpr AABBox3D const& Reset(AABBox3D const& other);
-    /// Grows to hold the point; a coordinate that is a NaN changes nothing.
+    /// @{ Grows to hold the point; a coordinate that is a NaN changes nothing.
     constexpr AABBox3D const& Add(T x, T y, T z);
     constexpr AABBox3D const& Add(Vec4D<T> const& point) { return Add(point.x, point.y, point.z); }
+    /// @}
     /// Grows to hold both corners, which for a reset box are two ordinary points, far out.
     constexpr AABBox3D const& Add(AABBox3D const& other);
     /// Swaps the coordinates of each axis on which min > max.
     constexpr AABBox3D const& Repair();
 
+    /// Half way between the corners.
     constexpr Vec4D<T> Center() const { return (max + min) * T(0.5); }
     /// The full width max - min, not half of it.
     constexpr Vec4D<T> GetExtent() const { return max - min; }
@@ -69,11 +79,12 @@ public:
     constexpr int IsInside(Vec4D<T> const& point) const;
     /// 1 when the other box lies in this one.
     constexpr int IsInside(AABBox3D const& other) const { return IsInside(other.max) && IsInside(other.min); }
-    /// The boundary is outside.
+    /// @{ The boundary is outside.
     constexpr int IsTotallyInside(Vec4D<T> const& point) const;
     constexpr int IsTotallyInside(AABBox3D const& other) const {
         return IsTotallyInside(other.max) && IsTotallyInside(other.min);
     }
+    /// @}
     /// The point clamped to the box: a point inside comes back as it is.
     constexpr Vec4D<T> GetClosestPoint(Vec4D<T> const& point) const;
     /// EIR_BEHIND where the whole box lies on the plane's positive side, EIR_IN_FRONT where no corner does,
@@ -99,6 +110,7 @@ public:
     constexpr int Intersects(Vec4D<T> const& middle, Vec4D<T> const& direction, T halfLength) const;
 };
 
+/// @{ Exact, w included.
 template <class T>
 constexpr int operator==(AABBox3D<T> const& a, AABBox3D<T> const& b) {
     return a.min == b.min && a.max == b.max;
@@ -107,6 +119,7 @@ template <class T>
 constexpr int operator!=(AABBox3D<T> const& a, AABBox3D<T> const& b) {
     return !(a == b);
 }
+/// @}
 /// a*t + b*(1 - t): t weighs the first box, and is not clamped.
 template <class T>
 constexpr AABBox3D<T> GetInterpolatedBoundingBox(AABBox3D<T> const& a, AABBox3D<T> const& b,

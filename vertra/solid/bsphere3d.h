@@ -13,21 +13,27 @@ namespace vertra {
 template <class T>
 class VERTRA_API BSphere3D : public Sphere3D<T> {
 public:
+    /// @{ As in `Sphere3D`.
     using Sphere3D<T>::center;
     using Sphere3D<T>::radius;
     using Sphere3D<T>::Intersects;
+    /// @}
 
     /// Radius 0 at the origin.
     constexpr BSphere3D() : Sphere3D<T>() {}
+    /// @{ As given; center.w is 0.
     constexpr BSphere3D(Vec4D<T> const& c, T r) : Sphere3D<T>(c, r) {}
     constexpr BSphere3D(BSphere3D const& other);
     constexpr BSphere3D(Sphere3D<T> const& other) : Sphere3D<T>(other) {}
+    /// @}
     /// Around the box: its center, and the distance from there to its max.
     constexpr BSphere3D(AABBox3D<T> const& box)
         : Sphere3D<T>(box.Center(), GetDistanceBetween(box.Center(), box.max)) {}
 
+    /// center.w stays.
     constexpr BSphere3D const& operator=(BSphere3D const& other) { return Reset(other.center, other.radius); }
 
+    /// 1 when they overlap; a touch is none.
     constexpr int Intersects(BSphere3D const& other) const { return Sphere3D<T>::Intersects(other); }
     /// 1 when the center lies in or on the box, or nearer to it than the radius; a touch from outside is
     /// none.
@@ -41,11 +47,13 @@ public:
     constexpr BSphere3D const& Add(BSphere3D const& other);
     /// Becomes the sphere around the box; the w of the center stays.
     constexpr BSphere3D const& FitAround(AABBox3D<T> const& box);
+    /// As given; center.w stays.
     constexpr BSphere3D const& Reset(Vec4D<T> const& c, T r);
     /// Radius 0 at the origin.
     constexpr BSphere3D const& Reset() { return Reset(Vec4D<T>(), T(0)); }
 };
 
+/// @{ Exact, center.w included.
 template <class T>
 constexpr int operator==(BSphere3D<T> const& a, BSphere3D<T> const& b) {
     return static_cast<Sphere3D<T> const&>(a) == b;
@@ -54,6 +62,7 @@ template <class T>
 constexpr int operator!=(BSphere3D<T> const& a, BSphere3D<T> const& b) {
     return !(a == b);
 }
+/// @}
 
 template <class T>
 constexpr BSphere3D<T>::BSphere3D(BSphere3D const&) = default;

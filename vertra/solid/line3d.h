@@ -14,31 +14,43 @@ namespace vertra {
 template <class T>
 class VERTRA_API Line3D {
 public:
+    /// @{ May coincide.
     Vec4D<T> start;
     Vec4D<T> end;
+    /// @}
 
     /// From (0, 0, 0) to (1, 1, 1).
     constexpr Line3D() : Line3D(T(0), T(0), T(0), T(1), T(1), T(1)) {}
+    /// The w of both points becomes 0.
     constexpr Line3D(Line3D const& other);
+    /// @{ From the first point to the second; the w of both is 0.
     constexpr Line3D(Vec4D<T> const& from, Vec4D<T> const& to) : start(from), end(to) {}
     constexpr Line3D(T x1, T y1, T z1, T x2, T y2, T z2) : start(x1, y1, z1), end(x2, y2, z2) {}
+    /// @}
 
+    /// x, y, z of both points; their w stays.
     constexpr Line3D const& operator=(Line3D const& other) { return SetPoints(other.start, other.end); }
     /// Point by point, w included, unlike `a + b`.
     constexpr Line3D const& operator+=(Line3D const& other);
     /// Point by point, w included, unlike `a - b`.
     constexpr Line3D const& operator-=(Line3D const& other);
+    /// @{ Exact, w included.
     constexpr int operator==(Line3D const& other) { return start == other.start && end == other.end; }
     constexpr int operator!=(Line3D const& other) { return !(*this == other); }
+    /// @}
 
+    /// @{ x, y, z of both points; their w stays.
     constexpr Line3D const& SetPoints(Vec4D<T> const& from, Vec4D<T> const& to);
     constexpr Line3D const& SetPoints(T x1, T y1, T z1, T x2, T y2, T z2);
+    /// @}
 
+    /// Half way; w is 0.
     constexpr Vec4D<T> Midpoint() const { return (start + end) * T(0.5); }
     /// The direction end - start, not normalised: not a point.
     constexpr operator Vec4D<T>() const { return end - start; }
 };
 
+/// @{ Point by point; the w of both is 0.
 template <class T>
 constexpr Line3D<T> operator+(Line3D<T> const& a, Line3D<T> const& b) {
     return Line3D<T>(a.start + b.start, a.end + b.end);
@@ -47,7 +59,9 @@ template <class T>
 constexpr Line3D<T> operator-(Line3D<T> const& a, Line3D<T> const& b) {
     return Line3D<T>(a.start - b.start, a.end - b.end);
 }
+/// @}
 
+/// @{ Of end - start, over x, y, z.
 template <class T>
 constexpr T Len(Line3D<T> const& line) {
     return GetDistanceBetween(line.start, line.end);
@@ -56,6 +70,7 @@ template <class T>
 constexpr T Len2(Line3D<T> const& line) {
     return GetDistanceBetween2(line.start, line.end);
 }
+/// @}
 
 /// 1 when the point is nearer to both ends than the line is long: it lies in both open balls of radius
 /// Len(line) around the ends, on the line or off it. An end itself gives 0.

@@ -37,11 +37,14 @@ enum EINTERSECTION_RELATION {
 template <class T>
 class VERTRA_API Plane3D {
 public:
+    /// @{ Of the equation above.
     Vec4D<T> normal;
     T distance;
+    /// @}
 
     /// The plane y = 0 with its normal along +y.
     constexpr Plane3D() : Plane3D(Vec4D<T>(T(0), T(1), T(0)), T(0)) {}
+    /// normal.w becomes 0.
     constexpr Plane3D(Plane3D const& other);
     /// Normal and distance as given, not normalised.
     constexpr Plane3D(Vec4D<T> const& n, T d) : normal(n), distance(d) {}
@@ -55,6 +58,7 @@ public:
         SetPlane(a, b, c);
     }
 
+    /// normal.w stays.
     constexpr Plane3D const& operator=(Plane3D const& other) {
         return SetPlane(other.normal, other.distance);
     }
@@ -104,6 +108,7 @@ public:
     constexpr Plane3D const& operator*=(Matrix3D<T> const& m);
 };
 
+/// @{ Exact, normal.w included: two equations of one plane can differ.
 template <class T>
 constexpr int operator==(Plane3D<T> const& a, Plane3D<T> const& b) {
     return a.normal == b.normal && a.distance == b.distance;
@@ -112,6 +117,7 @@ template <class T>
 constexpr int operator!=(Plane3D<T> const& a, Plane3D<T> const& b) {
     return !(a == b);
 }
+/// @}
 
 /// 1 when the direction runs against the normal or along the plane; 0 for a NaN.
 template <class T>

@@ -20,11 +20,14 @@ namespace vertra {
 template <class T>
 class VERTRA_API Quad3D {
 public:
+    /// In order around.
     Vec4D<T> vertex[4];
 
     /// Four zero vectors.
     constexpr Quad3D() : vertex() {}
+    /// Every w becomes 0.
     constexpr Quad3D(Quad3D const& other);
+    /// The four vertices; every w is 0.
     constexpr Quad3D(Vec4D<T> const& a, Vec4D<T> const& b, Vec4D<T> const& c, Vec4D<T> const& d)
         : vertex{a, b, c, d} {}
     /// Four scalars a vertex: the one constructor that stores a w.
@@ -32,6 +35,7 @@ public:
                      T w4)
         : vertex{{x1, y1, z1, w1}, {x2, y2, z2, w2}, {x3, y3, z3, w3}, {x4, y4, z4, w4}} {}
 
+    /// x, y, z of the vertices; every w stays.
     constexpr Quad3D& operator=(Quad3D const& other);
 
     /// The infinite line through point along direction; a hit on the diagonal, as on the outline, is none.
@@ -43,6 +47,7 @@ public:
     constexpr int IsCoPlanar() const;
 };
 
+/// @{ Exact, vertex by vertex, w included.
 template <class T>
 constexpr int operator==(Quad3D<T> const& a, Quad3D<T> const& b) {
     return a.vertex[0] == b.vertex[0] && a.vertex[1] == b.vertex[1] && a.vertex[2] == b.vertex[2] &&
@@ -52,6 +57,7 @@ template <class T>
 constexpr int operator!=(Quad3D<T> const& a, Quad3D<T> const& b) {
     return !(a == b);
 }
+/// @}
 
 /// Writes x, y, z of both triangles.
 template <class T>

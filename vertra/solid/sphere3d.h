@@ -13,14 +13,19 @@ namespace vertra {
 template <class T>
 class VERTRA_API Sphere3D {
 public:
+    /// @{ In memory in this order, without gaps.
     Vec4D<T> center;
     T radius;
+    /// @}
 
     /// Radius 0 at the origin.
     constexpr Sphere3D() : Sphere3D(Vec4D<T>(), T(0)) {}
+    /// Each as given.
     constexpr Sphere3D(Vec4D<T> const& c, T r) : center(c), radius(r) {}
+    /// center.w becomes 0.
     constexpr Sphere3D(Sphere3D const& other);
 
+    /// center.w stays.
     constexpr Sphere3D const& operator=(Sphere3D other);
 
     /// 4 pi r^2, with the float value of pi in both scalars, computed in double.
@@ -28,11 +33,13 @@ public:
     /// 1.33333333 pi r^3 with the same pi: not quite 4/3.
     constexpr T Volume() const { return static_cast<T>(4.188790310878122 * radius * radius * radius); }
 
+    /// The surface is outside.
     constexpr int IsInside(Vec4D<T> const& point) const {
         return radius * radius > GetDistanceBetween2(point, center);
     }
     /// The surface point on the line from the center through the point. The center gives itself.
     constexpr Vec4D<T> GetClosestPointOnSurface(Vec4D<T> const& point) const;
+    /// 1 when they overlap; a touch is none.
     constexpr int Intersects(Sphere3D const& other) const;
     /// 1 where the plane passes through, EIR_STRADDLING of `Plane3D::ClassifySphere`.
     constexpr int Intersects(Plane3D<T> const& plane) const;
@@ -43,6 +50,7 @@ public:
     constexpr int Intersects(Vec4D<T> const& origin, Vec4D<T> const& direction, Vec4D<T>& hit) const;
 };
 
+/// @{ Exact, center.w included.
 template <class T>
 constexpr int operator==(Sphere3D<T> const& a, Sphere3D<T> const& b) {
     return a.radius == b.radius && a.center == b.center;
@@ -51,6 +59,7 @@ template <class T>
 constexpr int operator!=(Sphere3D<T> const& a, Sphere3D<T> const& b) {
     return !(a == b);
 }
+/// @}
 
 /// When two moving spheres first touch, for velocities whose difference has length 1: the time of contact,
 /// negative where it lies in the past; 0 where they overlap now; -1 where they never meet. A graze (a

@@ -19,27 +19,34 @@ namespace vertra {
 template <class T>
 class VERTRA_API Triangle3D {
 public:
+    /// Counter-clockwise, seen from where the normal points to.
     Vec4D<T> vertex[3];
 
     /// The three unit points (1, 0, 0), (0, 1, 0), (0, 0, 1): not a zero triangle.
     constexpr Triangle3D() : Triangle3D(T(1), T(0), T(0), T(0), T(1), T(0), T(0), T(0), T(1)) {}
+    /// Every w becomes 0.
     constexpr Triangle3D(Triangle3D const& other);
+    /// @{ The three vertices; every w is 0.
     constexpr Triangle3D(Vec4D<T> const& a, Vec4D<T> const& b, Vec4D<T> const& c) : vertex{a, b, c} {}
     constexpr Triangle3D(T x1, T y1, T z1, T x2, T y2, T z2, T x3, T y3, T z3)
         : vertex{{x1, y1, z1}, {x2, y2, z2}, {x3, y3, z3}} {}
+    /// @}
 
+    /// x, y, z of the vertices; every w stays.
     constexpr Triangle3D const& operator=(Triangle3D const& other) {
         return Set(other.vertex[0], other.vertex[1], other.vertex[2]);
     }
+    /// x, y, z of the vertices; every w stays.
     constexpr Triangle3D const& Set(Vec4D<T> const& a, Vec4D<T> const& b, Vec4D<T> const& c);
 
-    /// Vertex i, 0 to 2; not range-checked.
+    /// @{ Vertex i, 0 to 2; not range-checked.
     constexpr Vec4D<T>& operator[](int i) { return vertex[i]; }
     constexpr Vec4D<T>& operator[](unsigned int i) { return vertex[i]; }
     constexpr Vec4D<T>& operator[](WideIndex i) { return vertex[i]; }
     constexpr Vec4D<T> const& operator[](int i) const { return vertex[i]; }
     constexpr Vec4D<T> const& operator[](unsigned int i) const { return vertex[i]; }
     constexpr Vec4D<T> const& operator[](WideIndex i) const { return vertex[i]; }
+    /// @}
     /// The plane of the triangle, with a unit normal; a zero one for a triangle of no area.
     constexpr operator Plane3D<T>() const { return Plane3D<T>(vertex[0], vertex[1], vertex[2]); }
 
@@ -53,6 +60,7 @@ public:
     constexpr int Intersects(AABBox3D<T> const& box) const;
 };
 
+/// @{ Exact, vertex by vertex, w included.
 template <class T>
 constexpr int operator==(Triangle3D<T> const& a, Triangle3D<T> const& b) {
     return a.vertex[0] == b.vertex[0] && a.vertex[1] == b.vertex[1] && a.vertex[2] == b.vertex[2];
@@ -61,6 +69,7 @@ template <class T>
 constexpr int operator!=(Triangle3D<T> const& a, Triangle3D<T> const& b) {
     return !(a == b);
 }
+/// @}
 
 /// The normal, not normalised: its length is twice the area. `Normal` of three points is the unit form.
 template <class T>

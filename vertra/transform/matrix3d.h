@@ -32,6 +32,7 @@ inline constexpr bool is_array_view<Matrix3D<T>> = true;
 template <class T>
 class VERTRA_API Matrix3D {
 public:
+    /// Element e lies in row e / 4, column e % 4.
     T m[16];
 
     /// The identity.
@@ -40,18 +41,21 @@ public:
     constexpr Matrix3D(T value) : m{} { *this = value; }
     /// Sixteen scalars from p on.
     constexpr Matrix3D(T const* p) : m{} { *this = p; }
+    /// Row after row.
     constexpr Matrix3D(T m0, T m1, T m2, T m3, T m4, T m5, T m6, T m7, T m8, T m9, T m10, T m11, T m12, T m13,
                        T m14, T m15)
         : m{m0, m1, m2, m3, m4, m5, m6, m7, m8, m9, m10, m11, m12, m13, m14, m15} {}
     /// The four rows, w included as it arrives: a vector copied into the argument has w = 0 by then, one that
     /// is built in the argument keeps its own.
     constexpr Matrix3D(Vec4D<T> row0, Vec4D<T> row1, Vec4D<T> row2, Vec4D<T> row3);
+    /// All sixteen elements.
     constexpr Matrix3D(Matrix3D const& other);
     /// The rotation of a quaternion, in the sense that `Quat3D` tells: the opposite way from its axes.
     constexpr Matrix3D(Quat3D<T> const& q);  // defined with Quat3D
     Matrix3D(std::nullptr_t) = delete;
     Matrix3D(ArrayView auto const&) = delete;
 
+    /// All sixteen elements.
     constexpr Matrix3D const& operator=(Matrix3D const& other) { return *this = other.m; }
     /// All sixteen elements become value.
     constexpr Matrix3D const& operator=(T value);
@@ -60,28 +64,35 @@ public:
     Matrix3D const& operator=(std::nullptr_t) = delete;
     Matrix3D const& operator=(ArrayView auto const&) = delete;
 
-    /// The identity. Eye and LoadIdentity are one operation.
+    /// @{ The identity. Eye and LoadIdentity are one operation.
     constexpr Matrix3D const& Eye() { return *this = Matrix3D(); }
     constexpr Matrix3D const& LoadIdentity() { return Eye(); }
+    /// @}
 
-    /// (m[4i], m[4i+1], m[4i+2]), i from 0 to 3: the element of column 3 is dropped, w is 0.
+    /// @{ (m[4i], m[4i+1], m[4i+2]), i from 0 to 3: the element of column 3 is dropped, w is 0.
     constexpr Vec4D<T> Row(int i) { return static_cast<Matrix3D const&>(*this).Row(i); }
     constexpr Vec4D<T> Row(int i) const { return Vec4D<T>(m + 4 * i); }
-    /// (m[i], m[i+4], m[i+8]), i from 0 to 3: the element of row 3 is dropped, w is 0.
+    /// @}
+    /// @{ (m[i], m[i+4], m[i+8]), i from 0 to 3: the element of row 3 is dropped, w is 0.
     constexpr Vec4D<T> Column(int i) { return static_cast<Matrix3D const&>(*this).Column(i); }
     constexpr Vec4D<T> Column(int i) const { return Vec4D<T>(m[i], m[i + 4], m[i + 8]); }
-    /// Element i, 0 to 15, by value: flat, not a row, and not to be assigned through. Not range-checked.
+    /// @}
+    /// @{ Element i, 0 to 15, by value: flat, not a row, and not to be assigned through. Not range-checked.
     constexpr T operator[](int i) { return m[i]; }
     constexpr T operator[](unsigned int i) { return m[i]; }
     constexpr T operator[](WideIndex i) { return m[i]; }
-    /// The array view: sixteen scalars from element 0 on.
+    /// @}
+    /// @{ The array view: sixteen scalars from element 0 on.
     constexpr operator T*() { return m; }
     constexpr operator T const*() const { return m; }
+    /// @}
     explicit operator bool() = delete;
     explicit operator bool() const = delete;
 
+    /// @{ All sixteen elements.
     constexpr Matrix3D const& operator+=(Matrix3D const& b);
     constexpr Matrix3D const& operator-=(Matrix3D const& b);
+    /// @}
     /// The object becomes object * b. b must be another object; `m = m * m` squares.
     constexpr Matrix3D const& operator*=(Matrix3D const& b);
     /// All sixteen elements, column 3 included, unlike `m * s`.
@@ -99,26 +110,34 @@ public:
     /// Negates row 2: turns the right-handed system into a left-handed one.
     constexpr Matrix3D const& Left();
 
+    /// @{ The rotation about one axis.
     Matrix3D const& XRot(T angle);
     Matrix3D const& YRot(T angle);
     Matrix3D const& ZRot(T angle);
-    /// The rotations from a ready cosine and sine, which are taken as they are.
+    /// @}
+    /// @{ The rotations from a ready cosine and sine, which are taken as they are.
     constexpr Matrix3D const& XRot(T c, T s);
     constexpr Matrix3D const& YRot(T c, T s);
     constexpr Matrix3D const& ZRot(T c, T s);
+    /// @}
     /// XRot(angles.x), YRot(angles.y), ZRot(angles.z): a point turns about z first.
     Matrix3D const& Rot(Vec4D<T> const& angles);
-    /// About an axis of any length above 1e-15; a shorter one leaves the matrix unchanged.
+    /// @{ About an axis of any length above 1e-15; a shorter one leaves the matrix unchanged.
     Matrix3D const& Rot(Vec4D<T> const& axis, T angle);
     constexpr Matrix3D const& Rot(Vec4D<T> const& axis, T c, T s);
+    /// @}
     /// Multiplies in Matrix3D(q), the rotation by minus the angle of q.
     constexpr Matrix3D const& Rot(Quat3D<T> const& q);  // defined with Quat3D
 
+    /// @{ Multiplies in a translation.
     constexpr Matrix3D const& Trans(Vec4D<T> const& v) { return Trans(v.x, v.y, v.z); }
     constexpr Matrix3D const& Trans(T x, T y, T z);
+    /// @}
+    /// @{ Multiplies in a scale along the axes.
     constexpr Matrix3D const& Scale(Vec4D<T> const& v) { return Scale(v.x, v.y, v.z); }
     constexpr Matrix3D const& Scale(T x, T y, T z);
     constexpr Matrix3D const& Scale(T s) { return Scale(s, s, s); }
+    /// @}
 
     /// The view from eye towards center, multiplied in from the right: what the matrix does comes first.
     /// up need be neither of unit length nor at right angles. With eye = center columns 0 to 2 become 0; with
@@ -134,23 +153,26 @@ public:
     constexpr Vec4D<T> GetTranslation() const { return Row(3); }
 };
 
+/// @{ All sixteen elements.
 template <class T>
 constexpr Matrix3D<T> operator+(Matrix3D<T> const& a, Matrix3D<T> const& b);
 template <class T>
 constexpr Matrix3D<T> operator-(Matrix3D<T> const& a, Matrix3D<T> const& b);
+/// @}
 /// All sixteen elements; in float a +0 stays +0.
 template <class T>
 constexpr Matrix3D<T> operator-(Matrix3D<T> const& a);
 /// The full product: a acts first on a row vector.
 template <class T>
 constexpr Matrix3D<T> operator*(Matrix3D<T> const& a, Matrix3D<T> const& b);
-/// Columns 0 to 2 times s; column 3 is copied, so that an affine matrix stays one.
+/// @{ Columns 0 to 2 times s; column 3 is copied, so that an affine matrix stays one.
 template <class T>
 constexpr Matrix3D<T> operator*(Matrix3D<T> const& a, std::type_identity_t<T> s);
 template <class T>
 constexpr Matrix3D<T> operator*(std::type_identity_t<T> s, Matrix3D<T> const& a) {
     return a * s;
 }
+/// @}
 /// Columns 0 to 2 times 1 / s; column 3 is copied.
 template <class T>
 constexpr Matrix3D<T> operator/(Matrix3D<T> const& a, std::type_identity_t<T> s) {
@@ -159,6 +181,7 @@ constexpr Matrix3D<T> operator/(Matrix3D<T> const& a, std::type_identity_t<T> s)
 /// Columns 0 to 2 become s divided by the element; column 3 is copied.
 template <class T>
 constexpr Matrix3D<T> operator/(std::type_identity_t<T> s, Matrix3D<T> const& a);
+/// Rows become columns.
 template <class T>
 constexpr Matrix3D<T> Transpose(Matrix3D<T> const& a);
 

@@ -33,28 +33,37 @@ template <class T>
 class VERTRA_API Quat3D {
 public:
     T w;  ///< the scalar part
+    /// @{ The vector part; in memory after w, without gaps.
     T x;
     T y;
     T z;
+    /// @}
 
     /// All zeros.
     constexpr Quat3D() : Quat3D(T(0), T(0), T(0), T(0)) {}
     /// The vector part, then the scalar part.
     constexpr Quat3D(T x_, T y_, T z_, T w_) : w(w_), x(x_), y(y_), z(z_) {}
+    /// By SetPitchYawRoll.
     Quat3D(T pitch, T yaw, T roll);
     /// Four scalars in the order of the fields: w is p[0].
     constexpr Quat3D(T const* p) : Quat3D(p[1], p[2], p[3], p[0]) {}
+    /// All four scalars.
     constexpr Quat3D(Quat3D const& other);
+    /// By SetAxisAngle.
     Quat3D(Vec4D<T> const& axis, T angle);
+    /// By SetAxes.
     constexpr Quat3D(Vec4D<T> const& xAxis, Vec4D<T> const& yAxis, Vec4D<T> const& zAxis) : Quat3D() {
         SetAxes(xAxis, yAxis, zAxis);
     }
+    /// By FromMatrix.
     constexpr Quat3D(Matrix3D<T> const& m) : Quat3D() { *this = m; }
     Quat3D(std::nullptr_t) = delete;
     Quat3D(T) = delete;
     Quat3D(ArrayView auto const&) = delete;
 
+    /// All four scalars.
     constexpr Quat3D const& operator=(Quat3D const& other);
+    /// By FromMatrix.
     constexpr Quat3D const& operator=(Matrix3D<T> const& m) { return SetAxes(m.Row(0), m.Row(1), m.Row(2)); }
 
     /// Scales to unit length; one that is zero or holds a NaN stays as it is.
@@ -75,9 +84,11 @@ public:
     constexpr Quat3D const& SetAxes(Vec4D<T> const& xAxis, Vec4D<T> const& yAxis, Vec4D<T> const& zAxis);
     /// Writes x, y, z of the images of the axes.
     constexpr Quat3D const& GetAxes(Vec4D<T>& xAxis, Vec4D<T>& yAxis, Vec4D<T>& zAxis) const;
+    /// @{ The image of the axis: of unit length where the quaternion is.
     constexpr Vec4D<T> GetXAxis() const;
     constexpr Vec4D<T> GetYAxis() const;
     constexpr Vec4D<T> GetZAxis() const;
+    /// @}
 };
 
 /// The matrix of q, not normalised: the transpose of the rotation that q was made with.
