@@ -48,10 +48,6 @@ template <class T>
 inline constexpr double kRounding = 256 * std::numeric_limits<T>::epsilon();
 inline constexpr double kRootRounding = kRounding<float>;
 
-/// True when operators Ops, as of <functional>, take an A and a B in neither order.
-template <class A, class B, class... Ops>
-concept Refuse = (!std::invocable<Ops, A, B> && ...) && (!std::invocable<Ops, B, A> && ...);
-
 /// x, y, z for glm, and the inputs of a property for its message.
 inline constexpr auto Glm = [](auto const& v) { return glm::make_vec3(&v.x); };
 inline constexpr auto Inputs = [](auto const&... inputs) { return (testing::Message() << ... << inputs); };
