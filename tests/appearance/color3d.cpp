@@ -29,7 +29,8 @@ TYPED_TEST(FloatAndDouble, Color3DStoresAsItIsPacksIntoBytesAndSaturates) {
                C(v[0], v[1U], v[std::size_t(2)], static_cast<T*>(v)[3]), C(5, 6, 7, 8), C(0.5, 0, -1, 2) / 0,
                C(1, kNaN<T>, 0, 1), static_cast<unsigned>(packed), 0x11223344U, pack(1), 255, pack(0.5), 127,
                pack(1.5), 126, pack(-0.5), 129, pack(kNaN<T>), 0, pack(kInfinity<T>), 0, pack(-kInfinity<T>),
-               0, pack(T(1e18)), 0, half == near, 1, half != near, 0, half == next, 0, half != next, 1);
+               0, pack(T(1e18)), 0, half == half, 1, half == near, 1, half != near, 0, half == next, 0,
+               half != next, 1);
     static_assert(C(0xFF00FF00U).g == 1 && (C(1, 0, 1, 0) + C(1, 1, 0, 0))[0] == 1);
 
     auto const held = [](T x) { return std::clamp(x, T(0), T(1)); };

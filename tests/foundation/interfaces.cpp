@@ -9,6 +9,7 @@
 #include <cstring>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -31,6 +32,8 @@ bool FollowTheDestructor(auto... operations) {
 
 TEST(Interfaces, OperationsKeepTheirSlots) {
     using E = IEncrypterDecrypter;
+    std::unique_ptr<Base> const service = std::make_unique<Service>();
+    EXPECT_TRUE(dynamic_cast<IService*>(service.get()));
     EXPECT_TRUE(FollowTheDestructor(&E::GetMinimumBlockSize, &E::SetKey, &E::SetInitialChain, &E::Encrypt,
                                     &E::Decrypt));
     using S = ISoftwareBuffer;
@@ -64,7 +67,7 @@ TEST(SoftwareBuffer, GrowsAndRefusesWhatLiesBeyondItsEnd) {
     EXPECT_TRUE(std::memcmp(buffer->GetData(), "aXYd\0\0", buffer->GetSize()) == 0 &&
                 std::string(out) == "Yd");
     buffer->Reserve(100);
-    auto const* const data = buffer->GetData();
+    auto const* const data = std::as_const(*buffer).GetData();
     while (buffer->GetSize() < 100) buffer->Append("e", 1);
     EXPECT_TRUE(buffer->GetData() == data && data[99] == 'e' && buffer->GetCapacity() >= 100);
 }

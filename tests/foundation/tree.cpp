@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -36,6 +37,8 @@ TYPED_TEST(RawTree, LinksBothWaysAndOwnsNothing) {
     TypeParam a(root), b(root), stranger(nullptr);
     for (auto* child : {&a, &stranger, &stranger}) root->push_back(child);
     EXPECT_EQ(Nodes(root->begin(), root->end()), (Nodes{&a, &b, &a, &stranger, &stranger}));
+    auto const& constant = *root;
+    EXPECT_TRUE(std::equal(root->begin(), root->end(), constant.begin(), constant.end()));
     { TypeParam const shortLived(root); }
     EXPECT_EQ(root->size(), 6U) << "a node that is gone keeps its entry";
     delete root;

@@ -37,11 +37,14 @@ TYPED_TEST(FloatAndDouble, InteropOneTextForStreamsAndFormats) {
     expect(Quat3D<T>(1, 2, 3, 4), "(w: 4, x: 1, y: 2, z: 3)");
     expect(BSphere3D<T>(Vec4D<T>(1), 2), "(center: (1, 1, 1, 0), radius: 2)");
     expect(Triangle3D<T>(), "((1, 0, 0, 0), (0, 1, 0, 0), (0, 0, 1, 0))");
+    expect(Quad3D<T>(1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1, 2, 3, 4, 5, 6),
+           "((1, 2, 3, 4), (5, 6, 7, 8), (9, 0, 1, 2), (3, 4, 5, 6))");
     expect(Rect2D<T>(1, 2, 3, 4), "(topLeft: (1, 2), bottomRight: (3, 4))");
     expect(Color3D<T>(1, T(0.5), 0, 1), "(1, 0.5, 0, 1)");
     EXPECT_EQ(fmt::format("{}", Light3D<T>()).substr(0, 33), "(type: 3, diffuse: (1, 1, 1, 0), ");
     EXPECT_NE(Text(Material3D<T>()).find(", texture1: 0x0, "), std::string::npos);
-    EXPECT_EQ(fmt::format("{:.1f} {:>{}}", Vec2D<T>(1, 2), Vec2D<T>(3, 4), 3), "(1.0, 2.0) (  3,   4)");
+    EXPECT_EQ(fmt::format("{:.1f} {:>{}}{:}", Vec2D<T>(1, 2), Vec2D<T>(3, 4), 3, Vec2D<T>()),
+              "(1.0, 2.0) (  3,   4)(0, 0)");
     EXPECT_EQ(fmt::format("{:a}", Vec2D<T>(1, T(-0.75))), "(0x1p+0, -0x1.8p-1)");
     EXPECT_EQ(Text(std::fixed, std::setprecision(1), std::setw(4), Vec2D<T>(1, 2)), "( 1.0,  2.0)");
     EXPECT_EQ(Text(std::setw(3), Vec2D<T>(1, 2), 5), "(  1,   2)5");

@@ -20,7 +20,8 @@ TYPED_TEST(FloatAndDouble, Vec3DComputesThreeComponentsAndDropsEveryW) {
                +a, a, -a, V(-1, -2, -3), a * s, V(4, 8, 12), s * a, a * s, V(a) *= s, a * s, a / 3,
                a * (T(1) / 3), 12 / a, V(12, 6, 4), V(b) /= V(2, 0, -0.5), V(2.5, kInfinity<T>, -22), a ^ b,
                V(1, 4, -3), a * b, T(52), Distance(a, b), T(52), Len2(a), T(14), GetDistanceBetween2(a, b),
-               T(105), Lo(V(n, 1, 3), V(1, n, 2)), V(n, 1, 2), Hi(V(n, 1, 3), V(1, n, 2)), V(1, n, 3));
+               T(105), Lo(V(n, 1, 3), V(1, n, 2)), V(n, 1, 2), Hi(V(n, 1, 3), V(1, n, 2)), V(1, n, 3),
+               Lo(x, y), V(), Lo(y, x), V(), Hi(x, y), V(2, 2, 0), Hi(y, x), V(2, 2, 0));
     ExpectNear(kRootRounding, "roots", Len(a), T(3.74165739), GetDistanceBetween(a, b), T(10.2469508),
                Normalize(o), V(0, T(0.6), T(0.8)), Normal(o, o + x, o + y), V(0, 0, 1),
                Normal(o, o + x, o + x + y, o + y), V(0, 0, 1), Normal(a, a, b), V());

@@ -8,13 +8,14 @@ TYPED_TEST(FloatAndDouble, Vec4DArithmeticFollowsTheRulesOfWAndAgreesWithGlm) {
     using T = TypeParam;
     using V = Vec4D<T>;
     Random<T> random;
-    V a, b, c, d, out;
+    V a, b, c, d, out(5, 6, 7, 8);
     V const e(5, 6, 7, 8), plane(0, 2, 0, 9), up(0, 1, 0), on(5, 0, 0, 1), none(0, kNaN<T>, 0);
     static_assert(Len(V(0, 0, 0, 2)) == 2 && (V(1, 0, 0) ^ V(0, 1, 0)) == V(0, 0, 1));
     ExpectCopyAssignmentAndEquality<V>();
     ExpectNear(0, "made", V(), V(0, 0, 0, 0), V(2), V(2, 2, 2, 0), V(1, 2, 3), V(1, 2, 3, 0), V(&e.x),
                V(5, 6, 7, 0), V(&e.x, 9), V(5, 6, 7, 9), V(e), V(5, 6, 7, 0), V(e, e.w), e,
-               V(e[0], e[1U], e[std::size_t(2)], static_cast<T const*>(e)[3]), e);
+               V(e[0], e[1U], e[std::size_t(2)], static_cast<T const*>(e)[3]), e,
+               V(out[0], out[1U], out[std::size_t(2)], static_cast<T*>(out)[3]), e);
     for (int i = 0; i < 1000; ++i) {
         random.Fill(a, b, c, d, out);
         T const s = random() + T(4.5), w = out.w;

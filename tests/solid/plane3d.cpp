@@ -39,6 +39,7 @@ TYPED_TEST(FloatAndDouble, Plane3DEdgesAndProperties) {
     EXPECT_TRUE(out == V(0, 0, 0, 7) && along == out && P(V(1e-8F, 0, 0), 1).Intersects(up, along, out) &&
                 P(V(2, 0, 0), 1).Intersects(P(V(1, 0, 0), 3), along, out) && out == V(-3, 0, 0, 7));
     EXPECT_TRUE(!up.Intersects(Line3D<T>(1, 1, 0, 1, 0, 0), out) && out == V(1, 0, 0, 7)) << "at the end";
+    EXPECT_TRUE(up.Intersects(Line3D<T>(2, 1, 0, 2, -1, 0), out) && out == V(2, 0, 0, 7));
     EXPECT_TRUE(skew.Intersects(V(1, 0, 0, 1), V(0, 0, 0, 2), out) && out == V(-5, 0, 0, 7) &&
                 skew.RecalculateDistance(one) == -16);
 

@@ -18,7 +18,8 @@ TYPED_TEST(FloatAndDouble, Triangle3DEdgesAndProperties) {
     static_assert(pierce(A(0, 0, 0, 4, 0, 0, 0, 4, 0), V()) && A()[2U].z == 1);
     ExpectCopyAssignmentAndEquality<A>();
     ExpectNear(0, "default, no area", Normal(t), V(1, 1, 1), t[0], V(1, 0, 0), t[1U], V(0, 1, 0),
-               Normal(flat), V(), IsInsideTriangle(flat, V(1, 1, 1)), 0, IsFrontFacing(flat, x), 1);
+               t[std::size_t(2)], V(0, 0, 1), u[1U], V(1, 0, 0), u[std::size_t(2)], V(0, 1, 0), Normal(flat),
+               V(), IsInsideTriangle(flat, V(1, 1, 1)), 0, IsFrontFacing(flat, x), 1);
     ExpectNear(kRootRounding, "plane", Plane3D<T>(A(x * 4, y * 4, V(0, 0, 4))),
                Plane3D<T>(V(T(0.57735027)), T(-2.3094011)));
     ExpectNear(0, {}, u.Intersects(above, x, out), 0, u.Intersects(Line3D<T>(above, above + x), out), 0);

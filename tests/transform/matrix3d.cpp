@@ -22,8 +22,8 @@ TYPED_TEST(FloatAndDouble, Matrix3DEdgesOfEachOperation) {
                M(1, 2, 3, 0, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16), M(m).Eye(), M(), M(m).LoadIdentity(),
                M(), m.Row(1), V(5, 6, 7), c.Row(3), V(13, 14, 15), m.Column(1), V(2, 6, 10), c.Column(3),
                V(4, 8, 12), c.GetScale(), V(1, 6, 11), c.GetTranslation(), V(13, 14, 15),
-               V(m[4], m[5U], m[std::size_t(6)], static_cast<T const*>(c)[7]), V(5, 6, 7, 8), (-M(T(0))).m[3],
-               zero, M(T(0)).Left().m[11], zero);
+               V(m[4], m[5U], m[std::size_t(6)], static_cast<T const*>(c)[7]), V(5, 6, 7, 8),
+               static_cast<T*>(m)[8], T(9), (-M(T(0))).m[3], zero, M(T(0)).Left().m[11], zero);
     ExpectNear(0, "exact inverses", Invert(M()), M(), Invert(M().Scale(2, 4, 8)), M().Scale(0.5, 0.25, 0.125),
                Invert(swap), swap, Invert(M(0, -1, 0, 0, -1, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1)).m[1], T(-1));
     ExpectNear(0, "no inverse", Invert(M(T(0))), M(n),
