@@ -1,18 +1,26 @@
 // Judges the decisions of the shapes by exact rational arithmetic: see scripts/exhaust.
 //
 // Inputs are eighths from -1 to 1, where coincidences abound and float's sums and products are exact. Each
-// expected answer follows from what the shapes are, as sets of points, and from who owns the boundary.
+// expected answer follows from what the shapes are, as sets of points, and from who owns the boundary. With
+// the argument `near` inputs are random but for one that lies on a boundary as well as rounding lets it, and
+// it is counted how many decisions are wrong, of the library and of glm.
 
 #include <vertra/vertra.h>
 
+#include <glm/glm.hpp>
+#define GLM_ENABLE_EXPERIMENTAL
+#include <glm/gtc/type_ptr.hpp>
+#include <glm/gtx/intersect.hpp>
 #include <gmpxx.h>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
 #include <random>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -29,8 +37,8 @@ constexpr int kLeftOut = -1;
 /// Makes shapes of T from the numbers of a case, in braces, which are read from left to right.
 template <class T>
 struct Input {
-    int const* next;
-    T operator()() { return T(*next++) / T(8); }
+    double const* next;
+    T operator()() { return T(*next++); }
     T Radius() { return Abs((*this)()); }
     Vec2D<T> Flat() { return Vec2D<T>{(*this)(), (*this)()}; }
     Vec4D<T> Vec() { return Vec4D<T>{(*this)(), (*this)(), (*this)()}; }
@@ -42,12 +50,14 @@ struct Input {
     Line2D<T> FlatLine() { return Line2D<T>{Flat(), Flat()}; }
     Position2D<T> Position() { return Position2D<T>{(*this)(), (*this)()}; }
     Rect2D<T> Rect() { return Rect2D<T>{Position(), Position()}.Repair(); }
+    glm::vec<2, T> GlmFlat() { return {(*this)(), (*this)()}; }
+    glm::vec<3, T> Glm() { return {(*this)(), (*this)(), (*this)()}; }
 };
 
 template <>
 struct Input<Number> {
-    int const* next;
-    Number operator()() { return Number(*next++) / 8; }
+    double const* next;
+    Number operator()() { return *next++; }
     Point Flat() { return {(*this)(), (*this)(), 0}; }
     Point Vec() { return {(*this)(), (*this)(), (*this)()}; }
     Bounds Box() { return Sorted({Vec(), Vec()}); }
@@ -140,6 +150,7 @@ int Crossing(Exact in) {
 }
 
 constexpr int kCases = 100000;
+using Numbers = std::array<double, 16>;  // of a case
 int failures = 0;
 
 /// Asks the library, in float and in double, and the judge; each answer from 0 to last must occur.
@@ -149,16 +160,16 @@ void Check(char const* family, std::size_t last, Answer answer, Judge judge) {
     std::map<int, int> answers;
     int wrong = 0;
     for (int i = 0; i < kCases; ++i) {
-        std::array<int, 16> k{};
+        Numbers k{};
         int const reach = 1 << random() % 4;
-        for (int& number : k) number = static_cast<int>(random() >> 4U) % (2 * reach + 1) - reach;
+        for (double& number : k) number = (static_cast<int>(random() >> 4U) % (2 * reach + 1) - reach) / 8.0;
         int const expected = judge(Exact{k.data()});
         ++answers[expected];
         int const single = answer(Input<float>{k.data()});
         int const wide = answer(Input<double>{k.data()});
         if (expected == kLeftOut || (single == expected && wide == expected) || wrong++ > 0) continue;
         std::printf("%s: %d, but float %d, double %d for, in eighths,", family, expected, single, wide);
-        for (int const number : k) std::printf(" %d", number);
+        for (double const number : k) std::printf(" %g", 8 * number);
         std::puts("");
     }
     int const leftOut = std::exchange(answers[kLeftOut], 0);
@@ -167,6 +178,33 @@ void Check(char const* family, std::size_t last, Answer answer, Judge judge) {
     for (auto const& [value, count] : answers) std::printf("  %d: %d", value, count);
     std::puts("");
     failures += wrong > 0 || answers.size() != last + 1;
+}
+
+constexpr auto kCuts = [](auto in) {
+    auto const plane = in.Plane();
+    auto const line = in.Line();
+    auto hit = line.end;
+    return plane.Intersects(line, hit);
+};
+constexpr auto kSphereHolds = [](auto in) { return in.Sphere().IsInside(in.Vec()); };
+constexpr auto kSphereMeets = [](auto in) {
+    auto const sphere = in.Sphere();
+    return IsIntersectingWithSphere(in.Line(), sphere.center, sphere.radius, 0);
+};
+
+/// How far inside a sphere a point lies, as a difference of squares; or the point of a line that is nearest
+/// to the center.
+Number PointDepth(Exact in) {
+    Point const c = in.Vec();
+    Number const r = in();
+    return r * r - Square(in.Vec() - c);
+}
+Number LineDepth(Exact in) {
+    Point const c = in.Vec();
+    Number const r = in();
+    Point const a = in.Vec(), d = in.Vec() - a;
+    Number const t = Square(d) == 0 ? Number(0) : Number(Dot(c - a, d) / Square(d));
+    return r * r - Square(Along(a, d, t) - c);
 }
 
 /// The signs of a plane's equation at two points.
@@ -202,13 +240,7 @@ void CheckPlane() {
         return plane.Intersects(line.start, line.end, hit);
     };
     Check("Plane3D, line", 1, meets, [](Exact in) { return int(Turned(in) != 0); });
-    auto const cuts = [](auto in) {
-        auto const plane = in.Plane();
-        auto const line = in.Line();
-        auto hit = line.end;
-        return plane.Intersects(line, hit);
-    };
-    Check("Plane3D, segment", 1, cuts, [](Exact in) { return int(Sides(in)[0] * Sides(in)[1] < 0); });
+    Check("Plane3D, segment", 1, kCuts, [](Exact in) { return int(Sides(in)[0] * Sides(in)[1] < 0); });
 }
 
 void CheckBox() {
@@ -265,12 +297,7 @@ void CheckTriangle() {
 }
 
 void CheckSphere() {
-    auto const holds = [](auto in) { return in.Sphere().IsInside(in.Vec()); };
-    Check("Sphere3D::IsInside", 1, holds, [](Exact in) {
-        Point const c = in.Vec();
-        Number const r = in();
-        return int(Square(in.Vec() - c) < r * r);
-    });
+    Check("Sphere3D::IsInside", 1, kSphereHolds, [](Exact in) { return int(PointDepth(in) > 0); });
     auto const overlaps = [](auto in) { return in.Sphere().Intersects(in.Sphere()); };
     Check("Sphere3D, sphere", 1, overlaps, [](Exact in) {
         Point const a = in.Vec();
@@ -279,16 +306,8 @@ void CheckSphere() {
         Number const reach = r + abs(in());
         return int(Square(apart) < reach * reach);
     });
-    auto const meets = [](auto in) {
-        auto const sphere = in.Sphere();
-        return IsIntersectingWithSphere(in.Line(), sphere.center, sphere.radius, 0);
-    };
-    Check("IsIntersectingWithSphere", 1, meets, [](Exact in) {
-        Point const c = in.Vec();
-        Number const r = in();
-        Point const a = in.Vec(), d = in.Vec() - a;
-        Number const t = Square(d) == 0 ? Number(0) : Number(Dot(c - a, d) / Square(d));
-        Number const depth = r * r - Square(Along(a, d, t) - c);
+    Check("IsIntersectingWithSphere", 1, kSphereMeets, [](Exact in) {
+        Number const depth = LineDepth(in);
         return abs(depth) > Number(1, 16384) ? int(depth > 0) : kLeftOut;
     });
 }
@@ -317,9 +336,129 @@ void CheckPlanar() {
     });
 }
 
+/// The shares of wrong decisions, the library's and glm's, in per cent. The judge tells by its sign.
+template <class T>
+std::array<double, 2> WrongShares(auto toBoundary, auto answer, auto peer, auto judge) {
+    std::mt19937_64 random(1);
+    int judged = 0;
+    std::array<int, 2> wrong{};
+    for (int i = 0; i < kCases; ++i) {
+        Numbers k{};
+        for (double& number : k) number = double(random() >> 11U) * 0x1p-52 - 1;
+        toBoundary(k.data());
+        for (double& number : k) number = double(T(number));
+        Number const exact = judge(Exact{k.data()});
+        if (exact == 0) continue;
+        ++judged;
+        wrong[0] += answer(Input<T>{k.data()}) != (exact > 0);
+        wrong[1] += peer(Input<T>{k.data()}) != (exact > 0);
+    }
+    return {100.0 * wrong[0] / judged, 100.0 * wrong[1] / judged};
+}
+void Count(char const* family, auto toBoundary, auto answer, auto peer, auto judge) {
+    auto const single = WrongShares<float>(toBoundary, answer, peer, judge);
+    auto const wide = WrongShares<double>(toBoundary, answer, peer, judge);
+    std::printf("%-26s float: %6.3f %% wrong, glm %6.3f %%  double: %6.3f %%, glm %6.3f %%\n", family,
+                single[0], single[1], wide[0], wide[1]);
+}
+
+/// Three numbers as a vector, to read or to set.
+struct At {
+    double* numbers;
+    glm::dvec3 operator()() const { return glm::make_vec3(numbers); }
+    void operator()(glm::dvec3 const& v) const { std::copy_n(glm::value_ptr(v), 3, numbers); }
+};
+
+void CountNear() {
+    auto const toEdge = [](double* k) {  // of the triangle at 0, the line from 9 along 12
+        double const place = 1.5 * (k[15] + 1);
+        int const edge = static_cast<int>(place);
+        At const a{k + 3 * edge}, b{k + (3 * edge + 3) % 9};
+        At{k + 12}(glm::mix(a(), b(), place - edge) - At{k + 9}());
+    };
+    auto const pierces = [](auto in) {
+        auto const triangle = in.Triangle();
+        auto const start = in.Vec();
+        auto hit = start;
+        return triangle.Intersects(start, in.Vec(), hit);
+    };
+    auto const glmPierces = [](auto in) {
+        auto const a = in.Glm(), b = in.Glm(), c = in.Glm(), start = in.Glm();
+        auto hit = start;  // of glm the distance, and the place in the triangle
+        glm::vec<2, decltype(hit.x)> place;
+        return glm::intersectRayTriangle(start, in.Glm(), a, b, c, place, hit.x);
+    };
+    Count("line, edge of a triangle", toEdge, pierces, glmPierces, [](Exact in) {
+        Point const a = in.Vec(), f = in.Vec() - a, g = in.Vec() - a, start = in.Vec();
+        Point x;
+        if (Solve(f, g, Point{} - in.Vec(), start - a, x) == 0) return Number(0);
+        return std::min({x[0], x[1], Number(1 - x[0] - x[1])});
+    });
+
+    auto const toPlane = [](double* k) {  // at 0, the end of the segment at 7
+        At const n{k}, p{k + 7};
+        p(p() - n() * ((glm::dot(n(), p()) + k[3]) / glm::dot(n(), n())));
+    };
+    auto const glmCuts = [](auto in) {
+        auto const n = in.Glm();
+        auto const d = in();
+        auto const first = glm::dot(n, in.Glm()) + d;
+        return first * (glm::dot(n, in.Glm()) + d) < 0;
+    };
+    Count("segment up to a plane", toPlane, kCuts, glmCuts, [](Exact in) {
+        auto const sides = Sides(in);
+        return Number(-sides[0] * sides[1]);
+    });
+
+    auto const toSphere = [](double* k) {  // at 0, the point at 4
+        At const c{k}, p{k + 4};
+        p(c() + std::abs(k[3]) * glm::normalize(p()));
+    };
+    auto const glmHolds = [](auto in) {
+        auto const c = in.Glm();
+        auto const r = in.Radius();
+        return glm::distance(c, in.Glm()) < r;
+    };
+    Count("point, sphere", toSphere, kSphereHolds, glmHolds, PointDepth);
+
+    auto const toTangent = [](double* k) {  // to the sphere at 0, the line through 4 and 7
+        At const c{k}, p{k + 4}, q{k + 7};
+        glm::dvec3 const out = glm::normalize(p()), along = glm::cross(out, q());
+        p(c() + std::abs(k[3]) * out - along);
+        q(p() + 2.0 * along);
+    };
+    auto const glmMeets = [](auto in) {
+        auto const c = in.Glm();
+        auto const r = in.Radius();
+        auto const start = in.Glm();
+        auto hit = start;  // of glm the distance
+        return glm::intersectRaySphere(start, glm::normalize(in.Glm() - start), c, r * r, hit.x);
+    };
+    Count("line, sphere", toTangent, kSphereMeets, glmMeets, LineDepth);
+
+    auto const toLine = [](double* k) {  // from 0 to 2, the point at 4
+        for (int i = 0; i < 2; ++i) k[4 + i] = glm::mix(k[i], k[2 + i], k[15]);
+    };
+    auto const isRight = [](auto in) {
+        return in.FlatLine().ClassifyPoint(in.Flat(), 0) == POINT2D_POSITIVE_SIDE;
+    };
+    auto const glmIsRight = [](auto in) {
+        auto const a = in.GlmFlat(), b = in.GlmFlat(), c = in.GlmFlat();
+        return glm::determinant(glm::mat<2, 2, decltype(in())>(b - a, c - a)) < 0;
+    };
+    Count("point, side of a 2D line", toLine, isRight, glmIsRight, [](Exact in) {
+        Point const a = in.Flat(), b = in.Flat();
+        return Number(-Turn(a, b, in.Flat()));
+    });
+}
+
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+    if (argc > 2 && std::string_view(argv[2]) == "near") {
+        CountNear();
+        return EXIT_SUCCESS;
+    }
     CheckPlane();
     CheckBox();
     CheckTriangle();
