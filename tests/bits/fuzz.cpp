@@ -4,10 +4,15 @@
 //     cipher       a sequence of calls against the modes as their formulas have them
 //     tree         a sequence of calls against lists of numbers
 //     mesh         the reader of the examples, which may refuse but not fail otherwise
+//     scene        their reader of scenes likewise; a scene that it takes is what its header says
+//     options      their options likewise; a camera that they make shows its target in the middle
 
-#include "examples/common/mesh.h"
-#include "examples/common/run.h"
+#include "common/camera.h"
+#include "common/mesh.h"
+#include "common/options.h"
+#include "common/run.h"
 #include "operations.h"
+#include "scene/graph.h"
 
 #include <vertra/foundation/tree.h>
 
@@ -340,14 +345,65 @@ void FuzzTrees(FuzzedDataProvider& data) {
     kKinds[data.ConsumeIntegralInRange<std::size_t>(0, 4)](data);
 }
 
-/// Reads the input as a file of the working directory.
-void FuzzMesh(FuzzedDataProvider& data) {
-    std::ofstream("input.obj") << data.ConsumeRemainingBytesAsString();
+/// What the examples may do with their input is to throw an Error.
+void Refuse(auto const& call) {
     try {
-        example::LoadMesh("input.obj");
+        call();
     } catch (example::Error const&) {
         return;
     }
+}
+/// The input as a file of the working directory.
+std::string WriteFile(FuzzedDataProvider& data) {
+    std::ofstream("input") << data.ConsumeRemainingBytesAsString();
+    return "input";
+}
+
+void FuzzMesh(FuzzedDataProvider& data) {
+    Refuse([&] { example::LoadMesh(WriteFile(data)); });
+}
+
+void FuzzScene(FuzzedDataProvider& data) {
+    Refuse([&] {
+        auto const scene = example::LoadScene(WriteFile(data));
+        std::map<example::Node const*, std::size_t> place;
+        for (example::Node const* const node : scene.nodes) {
+            example::Node const* const parent = node->GetParent();
+            Require(parent == nullptr ? place.empty() : place.contains(parent), "a node before its children");
+            Require(node->level == (parent == nullptr ? 0 : parent->level + 1), "the level");
+            Require(place.emplace(node, place.size()).second, "a node once");
+            Require(node->mesh.empty() || scene.box.IsInside(node->box.Center()) == 1, "the box");
+        }
+    });
+}
+
+void FuzzOptions(FuzzedDataProvider& data) {
+    static constexpr char const* kNames[] = {"--size", "--eye", "--target", "--orbit"};
+    std::vector<std::string> arguments;
+    while (data.remaining_bytes() > 0 && arguments.size() < 16) {
+        int const kind = data.ConsumeIntegralInRange(0, 11);
+        arguments.push_back(kind < 4    ? kNames[kind]
+                            : kind < 8  ? std::to_string(data.ConsumeIntegralInRange(-99, 999))
+                            : kind < 11 ? std::to_string(data.ConsumeFloatingPointInRange(-2e9, 2e9))
+                                        : data.ConsumeRandomLengthString(8));
+    }
+    Refuse([&] {
+        CLI::App app;
+        example::Options options;
+        options.AddTo(app);
+        try {
+            app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        } catch (CLI::ParseError const&) {
+            return;
+        }
+        auto const camera = options.MakeCamera(AABBox3D<double>(-1, -1, -1, 1, 1, 1),
+                                               1.0 * options.size[0] / options.size[1]);
+        Vec4D<double> const target(options.target.value_or(std::array<double, 3>{}).data());
+        if (Len(target) > 1000 * GetDistanceBetween(camera.eye, target)) return;  // rounding moves it
+        Vec4D<double> shown(target);
+        shown *= camera.toClip;
+        Require(std::hypot(shown.x, shown.y) < 0.001 * shown.w, "the target in the middle");
+    });
 }
 
 void (*fuzzer)(FuzzedDataProvider&) = nullptr;
@@ -360,7 +416,9 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
         {"operations", bits::FuzzOperations},
         {"cipher", bits::FuzzCipher},
         {"tree", bits::FuzzTrees},
-        {"mesh", bits::FuzzMesh}};
+        {"mesh", bits::FuzzMesh},
+        {"scene", bits::FuzzScene},
+        {"options", bits::FuzzOptions}};
     char const* const name = std::getenv("FUZZER");
     bits::fuzzer = fuzzers.at(name != nullptr ? name : "");
     return 0;
