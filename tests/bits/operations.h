@@ -126,28 +126,43 @@ template <class F>
 struct Signature : Signature<decltype(&F::operator())> {};
 template <class F, class R, class... A>
 struct Signature<R (F::*)(A...) const> {
-    static void Run(F const& operation, auto& source, auto& sink) {
-        Run(operation, source, sink, std::index_sequence_for<A...>());
+    using Arguments = std::tuple<std::remove_cvref_t<A>...>;
+
+    static void Make(Arguments& arguments, auto& source) {
+        std::apply([&](auto&... argument) { (Fill(source, argument), ...); }, arguments);
+    }
+    /// Takes from own what the operation may change, the rest from shared. They stay there: a vector that is
+    /// copied loses its w.
+    static void Run(F const& operation, Arguments const& shared, Arguments& own, auto& sink) {
+        Run(operation, shared, own, sink, std::index_sequence_for<A...>());
     }
 
 private:
     template <std::size_t... i>
-    static void Run(F const& operation, auto& source, auto& sink, std::index_sequence<i...>) {
-        std::tuple<std::remove_cvref_t<A>...>
-            arguments;  // they stay here: a vector that is copied loses its w
-        (Fill(source, std::get<i>(arguments)), ...);
+    static void Run(F const& operation, Arguments const& shared, Arguments& own, auto& sink,
+                    std::index_sequence<i...>) {
+        auto const run = [&] { return operation(Pick<A>(std::get<i>(shared), std::get<i>(own))...); };
         if constexpr (std::is_void_v<R>) {
-            operation(std::get<i>(arguments)...);
+            run();
         } else {
-            Append(sink, operation(std::get<i>(arguments)...));
+            Append(sink, run());
         }
-        (AppendChanged<A>(sink, std::get<i>(arguments)), ...);
+        (AppendChanged<A>(sink, std::get<i>(own)), ...);
+    }
+    template <class Parameter>
+    static constexpr bool kChanged =
+        std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>>;
+    template <class Parameter, class Argument>
+    static auto& Pick(Argument const& shared, Argument& own) {
+        if constexpr (kChanged<Parameter>) {
+            return own;
+        } else {
+            return shared;
+        }
     }
     template <class Parameter>
     static void AppendChanged(auto& sink, auto const& argument) {
-        if constexpr (std::is_lvalue_reference_v<Parameter> &&
-                      !std::is_const_v<std::remove_reference_t<Parameter>>)
-            Append(sink, argument);
+        if constexpr (kChanged<Parameter>) Append(sink, argument);
     }
 };
 
@@ -156,7 +171,9 @@ private:
 /// Runs the operation once.
 template <class F>
 void Run(F const& operation, auto& source, auto& sink) {
-    detail::Signature<F>::Run(operation, source, sink);
+    typename detail::Signature<F>::Arguments arguments;
+    detail::Signature<F>::Make(arguments, source);
+    detail::Signature<F>::Run(operation, arguments, arguments, sink);
 }
 
 /// What the platform's own trigonometry in the scalar goes into, where that is double; see
