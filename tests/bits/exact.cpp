@@ -345,7 +345,7 @@ std::array<double, 2> WrongShares(auto toBoundary, auto answer, auto peer, auto 
     for (int i = 0; i < kCases; ++i) {
         Numbers k{};
         for (double& number : k) number = double(random() >> 11U) * 0x1p-52 - 1;
-        toBoundary(k.data());
+        toBoundary(k);
         for (double& number : k) number = double(T(number));
         Number const exact = judge(Exact{k.data()});
         if (exact == 0) continue;
@@ -364,17 +364,18 @@ void Count(char const* family, auto toBoundary, auto answer, auto peer, auto jud
 
 /// Three numbers as a vector, to read or to set.
 struct At {
-    double* numbers;
-    glm::dvec3 operator()() const { return glm::make_vec3(numbers); }
-    void operator()(glm::dvec3 const& v) const { std::copy_n(glm::value_ptr(v), 3, numbers); }
+    Numbers& numbers;
+    std::size_t first;
+    glm::dvec3 operator()() const { return glm::make_vec3(&numbers[first]); }
+    void operator()(glm::dvec3 const& v) const { std::copy_n(glm::value_ptr(v), 3, &numbers[first]); }
 };
 
 void CountNear() {
-    auto const toEdge = [](double* k) {  // of the triangle at 0, the line from 9 along 12
+    auto const toEdge = [](Numbers& k) {  // of the triangle at 0, the line from 9 along 12
         double const place = 1.5 * (k[15] + 1);
-        int const edge = static_cast<int>(place);
-        At const a{k + 3 * edge}, b{k + (3 * edge + 3) % 9};
-        At{k + 12}(glm::mix(a(), b(), place - edge) - At{k + 9}());
+        auto const edge = static_cast<std::size_t>(place);
+        At const a{k, 3 * edge}, b{k, (3 * edge + 3) % 9};
+        At{k, 12}(glm::mix(a(), b(), place - double(edge)) - At{k, 9}());
     };
     auto const pierces = [](auto in) {
         auto const triangle = in.Triangle();
@@ -395,8 +396,8 @@ void CountNear() {
         return std::min({x[0], x[1], Number(1 - x[0] - x[1])});
     });
 
-    auto const toPlane = [](double* k) {  // at 0, the end of the segment at 7
-        At const n{k}, p{k + 7};
+    auto const toPlane = [](Numbers& k) {  // at 0, the end of the segment at 7
+        At const n{k, 0}, p{k, 7};
         p(p() - n() * ((glm::dot(n(), p()) + k[3]) / glm::dot(n(), n())));
     };
     auto const glmCuts = [](auto in) {
@@ -410,8 +411,8 @@ void CountNear() {
         return Number(-sides[0] * sides[1]);
     });
 
-    auto const toSphere = [](double* k) {  // at 0, the point at 4
-        At const c{k}, p{k + 4};
+    auto const toSphere = [](Numbers& k) {  // at 0, the point at 4
+        At const c{k, 0}, p{k, 4};
         p(c() + std::abs(k[3]) * glm::normalize(p()));
     };
     auto const glmHolds = [](auto in) {
@@ -421,8 +422,8 @@ void CountNear() {
     };
     Count("point, sphere", toSphere, kSphereHolds, glmHolds, PointDepth);
 
-    auto const toTangent = [](double* k) {  // to the sphere at 0, the line through 4 and 7
-        At const c{k}, p{k + 4}, q{k + 7};
+    auto const toTangent = [](Numbers& k) {  // to the sphere at 0, the line through 4 and 7
+        At const c{k, 0}, p{k, 4}, q{k, 7};
         glm::dvec3 const out = glm::normalize(p()), along = glm::cross(out, q());
         p(c() + std::abs(k[3]) * out - along);
         q(p() + 2.0 * along);
@@ -436,8 +437,8 @@ void CountNear() {
     };
     Count("line, sphere", toTangent, kSphereMeets, glmMeets, LineDepth);
 
-    auto const toLine = [](double* k) {  // from 0 to 2, the point at 4
-        for (int i = 0; i < 2; ++i) k[4 + i] = glm::mix(k[i], k[2 + i], k[15]);
+    auto const toLine = [](Numbers& k) {  // from 0 to 2, the point at 4
+        for (std::size_t i = 0; i < 2; ++i) k[4 + i] = glm::mix(k[i], k[2 + i], k[15]);
     };
     auto const isRight = [](auto in) {
         return in.FlatLine().ClassifyPoint(in.Flat(), 0) == POINT2D_POSITIVE_SIDE;
