@@ -27,6 +27,16 @@ void Prepare(Line2D<T>& line) {
     line.ComputeNormal();
 }
 
+/// Not in the template, of which there are a thousand.
+void Compare(std::string_view name, int number, std::function<void(std::uint64_t&)> const& run) {
+    std::array<std::uint64_t, 3> hashes{};
+    { std::jthread const first(run, std::ref(hashes[0])), second(run, std::ref(hashes[1])); }
+    run(hashes[2]);
+    if (hashes[0] == hashes[2] && hashes[1] == hashes[2]) return;
+    std::printf("%.*s: case %d differs in a thread\n", int(name.size()), name.data(), number);
+    ++failures;
+}
+
 struct Visitor {
     template <class F>
     void operator()(std::string_view name, F const& operation, Kind = Kind::arithmetic) const {
@@ -37,20 +47,14 @@ struct Visitor {
             Source source(number, false);
             Operation::Make(shared, source);
             std::apply([](auto&... argument) { (Prepare(argument), ...); }, shared);
-            auto const run = [&](std::uint64_t& hash) {
+            Compare(name, number, [&](std::uint64_t& hash) {
                 typename Operation::Arguments own;
                 Source again(number, false);
                 Operation::Make(own, again);
                 Sink sink(false);
                 Operation::Run(operation, shared, own, sink);
                 hash = sink.Hash();
-            };
-            std::array<std::uint64_t, 3> hashes{};
-            { std::jthread const first(run, std::ref(hashes[0])), second(run, std::ref(hashes[1])); }
-            run(hashes[2]);
-            if (hashes[0] == hashes[2] && hashes[1] == hashes[2]) continue;
-            std::printf("%.*s: case %d differs in a thread\n", int(name.size()), name.data(), number);
-            ++failures;
+            });
         }
     }
 };
