@@ -11,7 +11,8 @@ from selenium import webdriver
 site = pathlib.Path(sys.argv[1]).resolve()
 pictures = pathlib.Path(sys.argv[2]) if len(sys.argv) > 2 else None
 options = webdriver.ChromeOptions()
-for argument in "headless", "no-sandbox", "host-resolver-rules=MAP * ~NOTFOUND":  # no other host is asked
+# No other host is asked.
+for argument in "headless", "no-sandbox", "disable-dev-shm-usage", "host-resolver-rules=MAP * ~NOTFOUND":
     options.add_argument(argument)
 options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
 
