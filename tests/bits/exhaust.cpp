@@ -16,7 +16,6 @@
 #include <cstring>
 #include <limits>
 #include <mutex>
-#include <set>
 #include <string_view>
 #include <thread>
 #include <vector>
@@ -190,9 +189,7 @@ bool CheckTrigonometry(bool sample) {
         for (std::size_t i = 0; i < std::min<std::size_t>(misses.size(), 4); ++i)
             std::printf(" %a %a", double(misses[i][0]), double(misses[i][1]));
         std::puts("");
-        std::set<float> places;  // a number and its negative are one
-        for (auto const& [x, second] : misses) places.insert(std::abs(x));
-        good &= places.size() <= 2;
+        good &= misses.size() <= 2;
     }
     return good;
 }

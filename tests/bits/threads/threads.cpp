@@ -1,8 +1,8 @@
 // Runs every operation in two threads at once on the same constant arguments, under the thread sanitizer, and
 // compares what they find with the result of one alone; see scripts/hostile.
 
-#include "cases.h"
-#include "operations.h"
+#include "../cases.h"
+#include "../operations.h"
 
 #include <array>
 #include <cstdint>
