@@ -117,23 +117,4 @@ inline constexpr auto Closest = [](auto const& a, auto const& b, auto const& p) 
     return a + (b - a) * glm::clamp(glm::dot(p - a, b - a) / glm::dot(b - a, b - a), 0.0, 1.0);
 };
 
-/// Whether clipping a convex polygon by the six faces of a box (I. Sutherland and G. Hodgman, "Reentrant
-/// Polygon Clipping", 1974) says as well that they meet, or do not: with the box a little larger in the one
-/// case, smaller in the other, so that a touch may be either. Two corners make a segment.
-template <class T>
-bool AgreesWithClipping(int meets, AABBox3D<T> const& box, auto const&... corners) {
-    std::vector<glm::dvec3> polygon = {Glm(corners)...}, rest;
-    for (int side = 0; side < 6; ++side, std::swap(polygon, rest), rest.clear()) {
-        int const axis = side / 2, sign = side % 2 == 0 ? -1 : 1;
-        double const bound = sign * double((sign < 0 ? box.min : box.max)[axis]) + (meets ? 1e-4 : -1e-4);
-        for (std::size_t i = 0; i < polygon.size(); ++i) {
-            glm::dvec3 const p = polygon[i], q = polygon[(i + 1) % polygon.size()];
-            double const atP = sign * p[axis] - bound, atQ = sign * q[axis] - bound;
-            if (atP <= 0) rest.push_back(p);
-            if (atP * atQ < 0) rest.push_back(glm::mix(p, q, atP / (atP - atQ)));
-        }
-    }
-    return polygon.empty() != bool(meets);
-}
-
 }  // namespace support

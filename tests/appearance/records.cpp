@@ -1,7 +1,5 @@
 #include "../support.h"
 
-namespace {
-
 using namespace support;
 
 TYPED_TEST(FloatAndDouble, RecordsLightsHoldTheirArgumentsAndDropEveryW) {
@@ -69,5 +67,3 @@ TYPED_TEST(FloatAndDouble, RecordsMaterialsDifferWhereAnyFieldDoes) {
     ExpectNear(0, "a NaN", equal(m, copy), 0, equal(m, m), 1);
     static_assert(M() == M());
 }
-
-}  // namespace

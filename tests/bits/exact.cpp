@@ -149,7 +149,7 @@ int Crossing(Exact in) {
     return onOther ? LINE2D_CROSSES_OTHER_SEGMENT : LINE2D_LINES_CROSS;
 }
 
-constexpr int kCases = 100000;
+int cases = 100000;
 using Numbers = std::array<double, 16>;  // of a case
 int failures = 0;
 
@@ -159,7 +159,7 @@ void Check(char const* family, std::size_t last, Answer answer, Judge judge) {
     std::mt19937 random(1);
     std::map<int, int> answers;
     int wrong = 0;
-    for (int i = 0; i < kCases; ++i) {
+    for (int i = 0; i < cases; ++i) {
         Numbers k{};
         int const reach = 1 << random() % 4;
         for (double& number : k) number = (static_cast<int>(random() >> 4U) % (2 * reach + 1) - reach) / 8.0;
@@ -174,7 +174,7 @@ void Check(char const* family, std::size_t last, Answer answer, Judge judge) {
     }
     int const leftOut = std::exchange(answers[kLeftOut], 0);
     answers.erase(kLeftOut);
-    std::printf("%-27s %d cases, %d wrong, answers", family, kCases - leftOut, wrong);
+    std::printf("%-27s %d cases, %d wrong, answers", family, cases - leftOut, wrong);
     for (auto const& [value, count] : answers) std::printf("  %d: %d", value, count);
     std::puts("");
     failures += wrong > 0 || answers.size() != last + 1;
@@ -342,7 +342,7 @@ std::array<double, 2> WrongShares(auto toBoundary, auto answer, auto peer, auto 
     std::mt19937_64 random(1);
     int judged = 0;
     std::array<int, 2> wrong{};
-    for (int i = 0; i < kCases; ++i) {
+    for (int i = 0; i < cases; ++i) {
         Numbers k{};
         for (double& number : k) number = double(random() >> 11U) * 0x1p-52 - 1;
         toBoundary(k);
@@ -460,6 +460,7 @@ int main(int argc, char** argv) {
         CountNear();
         return EXIT_SUCCESS;
     }
+    if (argc > 2) cases = std::stoi(argv[2]);
     CheckPlane();
     CheckBox();
     CheckTriangle();

@@ -1,20 +1,13 @@
 #include "../support.h"
 
-#include <bit>
-
-namespace {
-
 using namespace support;
 
 static_assert(FastSqrt(4) == 2 && detail::SignBit(-0.0) == 1 && Abs(-2.0F) == 2 &&
               IsEqual(2.0, 2.5, 0.25) == 1);
 
 TEST(KernelTest, RootIsTrueOverTheNormalRangeAndDefinedBeyond) {
-    std::mt19937 random(20240601);
-    for (int i = 0; i < 200000; ++i) {
-        auto const x = std::bit_cast<float>(std::uint32_t(0x00800000 + random() % 0x7f000000));
+    for (float x = 0x1p-126F; x < 0x1p127F; x *= 1.0001F)
         ASSERT_NEAR(double(FastSqrt(x)) / std::sqrt(double(x)), 1, 2e-7) << std::hexfloat << x;
-    }
     for (int k = -63; k < 64; ++k) EXPECT_EQ(FastSqrt(std::ldexp(1.0F, 2 * k)), std::ldexp(1.0F, k)) << k;
     ExpectNear(0, "not tested for, not converging, infinite, negative, NaN", FastSqrt(0), 2.24262704e-20F,
                FastSqrt(1e-40F), 2.35839048e-20F, FastSqrt(1e-38F), 1.00000003e-19F,
@@ -36,5 +29,3 @@ TYPED_TEST(FloatAndDouble, KernelScalarAbsAndIsEqual) {
     ExpectNear(0, "unordered", IsEqual<T>(1, kNaN<T>, 1), 0, IsEqual<T>(kNaN<T>, 1, 1), 0,
                IsEqual<T>(kInfinity<T>, kInfinity<T>, 1), 0);
 }
-
-}  // namespace

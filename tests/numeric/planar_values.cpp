@@ -1,7 +1,5 @@
 #include "../support.h"
 
-namespace {
-
 using namespace support;
 
 TYPED_TEST(FloatAndDouble, PlanarValuesThreeTypesDifferInOperatorsEqualityAndNormalize) {
@@ -46,5 +44,3 @@ TYPED_TEST(FloatAndDouble, PlanarValuesThreeTypesDifferInOperatorsEqualityAndNor
     ExpectNear(0, "zero, and a NaN itself", Normalize(Vec3D<T>()), Vec3D<T>(), Normalize(V()), V(),
                same(p, p), 1);
 }
-
-}  // namespace

@@ -1,7 +1,5 @@
 #include "../support.h"
 
-namespace {
-
 using namespace support;
 
 TYPED_TEST(FloatAndDouble, Vec3DComputesThreeComponentsAndDropsEveryW) {
@@ -28,5 +26,3 @@ TYPED_TEST(FloatAndDouble, Vec3DComputesThreeComponentsAndDropsEveryW) {
     ExpectCopyAssignmentAndEquality<V>();
     static_assert(Normalize(V(4, 0, 0))[0U] == 1);
 }
-
-}  // namespace

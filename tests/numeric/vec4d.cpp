@@ -1,7 +1,5 @@
 #include "../support.h"
 
-namespace {
-
 using namespace support;
 
 TYPED_TEST(FloatAndDouble, Vec4DArithmeticFollowsTheRulesOfWAndAgreesWithGlm) {
@@ -78,5 +76,3 @@ TYPED_TEST(FloatAndDouble, VectorsCompareAllComponentsAtOnce) {
     };
     for (int i = 0; i < 20000; ++i) compare(Vec4D<T>(), {}, {}), compare(Vec3D<T>(), {}, {});
 }
-
-}  // namespace

@@ -1,7 +1,5 @@
 #include "../support.h"
 
-namespace {
-
 using namespace support;
 
 TYPED_TEST(FloatAndDouble, Line3DCarriesWAndAgreesWithGlm) {
@@ -51,5 +49,3 @@ TYPED_TEST(FloatAndDouble, Line3DCarriesWAndAgreesWithGlm) {
                    std::abs(distance - radius) < 1e-3 ? meets : int(distance < radius));
     }
 }
-
-}  // namespace

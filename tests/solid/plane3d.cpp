@@ -1,7 +1,5 @@
 #include "../support.h"
 
-namespace {
-
 using namespace support;
 
 TYPED_TEST(FloatAndDouble, Plane3DEdgesAndProperties) {
@@ -67,5 +65,3 @@ TYPED_TEST(FloatAndDouble, Plane3DEdgesAndProperties) {
         near(inPlace *= m, image);
     }
 }
-
-}  // namespace

@@ -1,7 +1,5 @@
 #include "../support.h"
 
-namespace {
-
 using namespace support;
 
 TYPED_TEST(FloatAndDouble, Quad3DIsTwoTrianglesSplitJoinedAndHit) {
@@ -67,5 +65,3 @@ TYPED_TEST(FloatAndDouble, Quad3DIsTwoTrianglesSplitJoinedAndHit) {
         ExpectNear(1e-4, Inputs(o, u, v, s, t), x, V(p, 9), y, V(p, 9), z, V(p, 9));
     }
 }
-
-}  // namespace

@@ -1,7 +1,5 @@
 #include "../support.h"
 
-namespace {
-
 using namespace support;
 
 TYPED_TEST(FloatAndDouble, Sphere3DContactIsStrictAndGrowthKeepsTheCenter) {
@@ -68,5 +66,3 @@ TYPED_TEST(FloatAndDouble, Sphere3DContactIsStrictAndGrowthKeepsTheCenter) {
         ExpectNear(1e-3, Inputs(b, o, n), hit, V(hits ? o + unit * enter : V(5, 6, 7), 8));
     }
 }
-
-}  // namespace

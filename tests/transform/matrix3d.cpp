@@ -2,8 +2,6 @@
 
 #include <glm/gtc/matrix_transform.hpp>
 
-namespace {
-
 using namespace support;
 
 TYPED_TEST(FloatAndDouble, Matrix3DEdgesOfEachOperation) {
@@ -92,5 +90,3 @@ TYPED_TEST(FloatAndDouble, Matrix3DArithmeticAndBuildersAgreeWithGlm) {
                    M().Rot(V(l, -quarter, angles.z + l)).GetRotation(), V(0, -quarter, angles.z));
     }
 }
-
-}  // namespace

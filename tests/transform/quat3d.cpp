@@ -3,8 +3,6 @@
 #include <glm/ext/quaternion_exponential.hpp>
 #include <glm/gtc/quaternion.hpp>
 
-namespace {
-
 using namespace support;
 
 TYPED_TEST(FloatAndDouble, Quat3DEdgesOfConversionsAndFunctions) {
@@ -95,5 +93,3 @@ TYPED_TEST(FloatAndDouble, Quat3DTurnsAsTheTableOfSensesAndGlmSay) {
             ExpectNear(kRootRounding, Inputs(f, g), Arc(V(f, 5), V(g, 6)), Q(f ^ g, std::acos(f * g)));
     }
 }
-
-}  // namespace
