@@ -53,7 +53,7 @@ inline constexpr auto Glm = [](auto const& v) { return glm::make_vec3(&v.x); };
 inline constexpr auto Inputs = [](auto const&... inputs) { return (testing::Message() << ... << inputs); };
 
 /// Each result and the judgement that follows it, by their scalars: within the tolerance, which is relative
-/// where the judgement is above 1, and at 0 the same bits, any NaN standing for any other. Both are of one
+/// where both are above 1, and at 0 the same bits, any NaN standing for any other. Both are of one
 /// type, unless glm judges. Its vectors of three ask for a w of 0; its matrices take columns for what we call
 /// rows, which makes the same sixteen numbers, and our a * b its b * a.
 template <class What = char const*, class A, class B, class... Rest>
@@ -61,7 +61,8 @@ void ExpectNear(double tolerance, What const& what, A const& got, B const& judge
     static_assert(std::same_as<A, B> || requires { glm::value_ptr(judge); });
     auto const same = [=](double s, double t) {
         if (s == t) return tolerance > 0 || std::signbit(s) == std::signbit(t);
-        return std::abs(s - t) <= tolerance * std::max(1.0, std::abs(t)) || (std::isnan(s) && std::isnan(t));
+        double const smaller = std::min(std::abs(s), std::abs(t));  // finite, if either is
+        return std::abs(s - t) <= tolerance * std::max(1.0, smaller) || (std::isnan(s) && std::isnan(t));
     };
     auto const p = Scalars(got);
     auto const q = Scalars(judge);
@@ -89,7 +90,8 @@ template <class Shape>
 void ExpectCopyAssignmentAndEquality() {
     Shape source, target, a, b;
     auto const from = Scalars(source), to = Scalars(target);
-    for (std::size_t i = 0; i < from.size(); ++i) to[i] = -(from[i] = static_cast<float>(i + 1));
+    for (std::size_t i = 0; i < from.size(); ++i)
+        to[i] = -(Scalars(a)[i] = Scalars(b)[i] = from[i] = static_cast<float>(i + 1));
     Shape const copy(source);
     target = source;
     target = static_cast<Shape const&>(target);

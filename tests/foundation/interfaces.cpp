@@ -39,9 +39,9 @@ TEST(SoftwareBuffer, GrowsAndRefusesWhatLiesBeyondItsEnd) {
     std::unique_ptr<ISoftwareBuffer> const buffer = std::make_unique<CSoftwareBuffer>();
     buffer->Append("abcd", 4);
     buffer->Write(1, "XY", 2);
-    buffer->Resize(6);
     char out[] = "..";
     buffer->Read(2, out, 2);
+    buffer->Resize(6);
     EXPECT_THROW(buffer->Read(5, out, 2), std::out_of_range);
     EXPECT_THROW(buffer->Write(7, "zz", std::size_t(-4)), std::out_of_range);
     EXPECT_TRUE(std::memcmp(buffer->GetData(), "aXYd\0\0", 6) == 0 && std::string(out) == "Yd");

@@ -22,8 +22,8 @@ TYPED_TEST(FloatAndDouble, PlanarValuesThreeTypesDifferInOperatorsEqualityAndNor
                P(p) *= P(2, -3), P(10, -18), d.width, T(5), D(), D(0, 0), D(s), D(4, 4), D() = d, d,
                d.GetSize(), T(30), V(v[0U], v[1U]), v, V(std::as_const(v)[0U], std::as_const(v)[1U]), v,
                V(0, 1).IsZero() + V(1, 0).IsZero(), 0, V().IsZero(), 1);
-    ExpectNear(kRootRounding, "roots", Len(v), T(7.81024968), Normalize(v),
-               V(T(0.640184400), T(0.768221280)));
+    ExpectNear(kRootRounding, "roots", Len(v), T(7.81024968), Normalize(v), V(T(0.640184400), T(0.768221280)),
+               Normalize(V(0.375, 0.5)), V(T(0.6), T(0.8)));
     static_assert(V(1, 2) * V(3, 4) == 11 && P(1, 2) * P(3, 4) == P(3, 8) && D(2, 3).GetSize() == 6);
 
     auto const same = [](auto const& a, auto const& b) { return (a != b) + (a == b) == 1 ? a == b : 9; };

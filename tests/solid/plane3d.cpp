@@ -18,7 +18,7 @@ TYPED_TEST(FloatAndDouble, Plane3DEdgesAndProperties) {
     unit.NormalizePlane();
     ExpectNear(0, "as they are", P(), up, P(y, at), y6, P(0, 2, 0, 1, 3, 1), y6, P().SetPlane(y, -6), y6);
     ExpectNear(0, "unit", P(V(0, 3, 0), V(0, 3, 1), V(1, 3, 0)), y3, P(one, one, one), P(V(), T(-0.0)),
-               P().SetPlane(V(y), at), y3, P(y, -6).NormalizePlane(), y3, P(V(), 2).NormalizePlane(),
+               P(right).SetPlane(V(y), at), y3, P(y, -6).NormalizePlane(), y3, P(V(), 2).NormalizePlane(),
                P(V(), 2 * (1 / T(2.24262704e-20F))), P(far).NormalizePlane(), far);
     ExpectNear(kRootRounding, "w counts", unit.normal, V(T(0.6), 0, 0, 4), unit.distance, T(2),
                skew.Distance(one), T(32), skew.GetMemberPoint(), V(-32, -64, -128));
@@ -29,7 +29,7 @@ TYPED_TEST(FloatAndDouble, Plane3DEdgesAndProperties) {
                up.ClassifyPoint(V(0, -in, 0)), EIR_ON_PLANE, up.ClassifyPoint(V(nan)), EIR_ON_PLANE,
                up.ClassifyPoint(V(0, above, 0)), EIR_IN_FRONT, up.ClassifyPoint(V(0, -above, 0)), EIR_BEHIND);
     ExpectNear(0, "facing", IsFrontFacing(up, V(1, 0, 0)), 1, IsFrontFacing(up, V(nan)), 0,
-               IsFrontFacing(skew, V(0, 1, 0, -2)), 1, IsFrontFacing(skew, V(0, 1, 0, -1)), 0);
+               IsFrontFacing(skew, V(0, 1, 0, -2)), 1, IsFrontFacing(skew, V(0, 0.5, 0, -0.75)), 0);
     ExpectNear(0, "parallel", up.Intersects(V(1, 0, 1), at, out), 0,
                up.Intersects(Line3D<T>(0, 1, 0, 1, 1, 0), out), 0,
                up.Intersects(right, P(V(1, 1, 0), 1), out), 0, up.Intersects(up, along, out), 0,
@@ -39,7 +39,8 @@ TYPED_TEST(FloatAndDouble, Plane3DEdgesAndProperties) {
     EXPECT_TRUE(!up.Intersects(Line3D<T>(1, 1, 0, 1, 0, 0), out) && out == V(1, 0, 0, 7)) << "at the end";
     EXPECT_TRUE(up.Intersects(Line3D<T>(2, 1, 0, 2, -1, 0), out) && out == V(2, 0, 0, 7));
     EXPECT_TRUE(skew.Intersects(V(1, 0, 0, 1), V(0, 0, 0, 2), out) && out == V(-5, 0, 0, 7) &&
-                skew.RecalculateDistance(one) == -16);
+                skew.RecalculateDistance(one) == -16 && up.Intersects(right, P(V(0, 0, 1), -2), out) &&
+                out == V(0, 0, 2, 7));
 
     Random<T> random;
     Matrix3D<T> m;

@@ -20,7 +20,8 @@ TYPED_TEST(FloatAndDouble, Triangle3DEdgesAndProperties) {
                V(), IsInsideTriangle(flat, V(1, 1, 1)), 0, IsFrontFacing(flat, x), 1);
     ExpectNear(kRootRounding, "plane", Plane3D<T>(A(x * 4, y * 4, V(0, 0, 4))),
                Plane3D<T>(V(T(0.57735027)), T(-2.3094011)));
-    ExpectNear(0, {}, u.Intersects(above, x, out), 0, u.Intersects(Line3D<T>(above, above + x), out), 0);
+    ExpectNear(0, {}, TrianglePlaneIntersectsWithLine(u, above, x, out), 0, u.Intersects(above, x, out), 0,
+               u.Intersects(Line3D<T>(above, above + x), out), 0);
     EXPECT_TRUE(out == V(0, 0, 0, 7) &&
                 TrianglePlaneIntersectsWithLine(u, V(0, 0, 1), V(1, 0, -1e-30F), out));
     EXPECT_TRUE(out == V(1 / T(1e-30F), 0, 0, 7) && !u.Intersects(V(3, 3, 1), V(0, 0, 1), out));
