@@ -22,8 +22,9 @@ TYPED_TEST(FloatAndDouble, Vec3DComputesThreeComponentsAndDropsEveryW) {
                Hi(V(n, 1, 3), V(1, n, 2)), V(1, n, 3), Lo(l, q), V(1, 2, 5), Lo(q, l), V(1, 2, 5), Hi(l, q),
                V(4, 8, 9), Hi(q, l), V(4, 8, 9));
     ExpectNear(kRootRounding, "roots", Len(a), T(3.74165739), GetDistanceBetween(a, b), T(10.2469508),
-               Normalize(o), V(0, T(0.6), T(0.8)), Normal(o, o + x, o + y), V(0, 0, 1),
-               Normal(o, o + x, o + x + y, o + y), V(0, 0, 1), Normal(a, a, b), V());
+               Normalize(o), V(0, T(0.6), T(0.8)), Normalize(o / 8), V(0, T(0.6), T(0.8)),
+               Normal(o, o + x, o + y), V(0, 0, 1), Normal(o, o + x, o + x + y, o + y), V(0, 0, 1),
+               Normal(a, a, b), V());
     ExpectCopyAssignmentAndEquality<V>();
     static_assert(Normalize(V(4, 0, 0))[0U] == 1);
 }

@@ -15,7 +15,8 @@ TYPED_TEST(FloatAndDouble, Line2DKeepsItsNormalAndCrossesAsWholeNumbersSay) {
     expect(L(), V(), 0), expect(line, V(), 0, out, V(1, 0), line.Length(), T(2), turned, V(), dot.Length(),
                                 T(2.24262704e-20F));
     V const& normal = line.Normal();
-    expect(line, V(0, -1), 1, &normal == &line.normal, true), expect(L(line), V(), 0, L(line).end, V(2, 0));
+    expect(line, V(0, -1), 1, &normal == &line.normal, true),
+        expect(L(line), V(), 0, L(line).start, V(0, 0), L(line).end, V(2, 0));
     expect(other = line, V(0, -1), 1, other.end, V(2, 0)), other.SetPoints(V(1, 1), V(1, 5)),
         expect(other, V(0, -1), 0);
     T const distance = other.SignedDistance(V(3, 9));

@@ -23,8 +23,8 @@ TYPED_TEST(FloatAndDouble, Plane3DEdgesAndProperties) {
     ExpectNear(kRootRounding, "w counts", unit.normal, V(T(0.6), 0, 0, 4), unit.distance, T(2),
                skew.Distance(one), T(32), skew.GetMemberPoint(), V(-32, -64, -128));
     ExpectNear(0, "one coordinate of three", skew.SolveForX(1, 2), T(-18), skew.SolveForY(1, 2), T(-8.5),
-               skew.SolveForZ(1, 2), T(-3.25), up.SolveForX(1, 2), T(0), up.SolveForZ(1, 2), T(0),
-               right.SolveForY(1, 2), T(0));
+               skew.SolveForZ(1, 2), T(-3.25), P(V(0, 1, 1), 0).SolveForX(1, 2), T(0),
+               P(V(1, 0, 1), 0).SolveForY(1, 2), T(0), P(V(1, 1, 0), 0).SolveForZ(1, 2), T(0));
     ExpectNear(0, "the tolerance and NaN", up.ClassifyPoint(V(0, in, 0)), EIR_ON_PLANE,
                up.ClassifyPoint(V(0, -in, 0)), EIR_ON_PLANE, up.ClassifyPoint(V(nan)), EIR_ON_PLANE,
                up.ClassifyPoint(V(0, above, 0)), EIR_IN_FRONT, up.ClassifyPoint(V(0, -above, 0)), EIR_BEHIND);
@@ -34,12 +34,13 @@ TYPED_TEST(FloatAndDouble, Plane3DEdgesAndProperties) {
                up.Intersects(Line3D<T>(0, 1, 0, 1, 1, 0), out), 0,
                up.Intersects(right, P(V(1, 1, 0), 1), out), 0, up.Intersects(up, along, out), 0,
                P(V(x, 0, 0), 1).Intersects(up, along, out), 0);
-    EXPECT_TRUE(out == V(0, 0, 0, 7) && along == out && P(V(1e-8F, 0, 0), 1).Intersects(up, along, out) &&
+    EXPECT_TRUE(out == V(0, 0, 0, 7) && along == out &&
+                P(V(1e-8F, 0, 0), 1).Intersects(up, along, out) == 1 &&
                 P(V(2, 0, 0), 1).Intersects(P(V(1, 0, 0), 3), along, out) && out == V(-3, 0, 0, 7));
     EXPECT_TRUE(!up.Intersects(Line3D<T>(1, 1, 0, 1, 0, 0), out) && out == V(1, 0, 0, 7)) << "at the end";
     EXPECT_TRUE(up.Intersects(Line3D<T>(2, 1, 0, 2, -1, 0), out) && out == V(2, 0, 0, 7));
     EXPECT_TRUE(skew.Intersects(V(1, 0, 0, 1), V(0, 0, 0, 2), out) && out == V(-5, 0, 0, 7) &&
-                skew.RecalculateDistance(one) == -16 && up.Intersects(right, P(V(0, 0, 1), -2), out) &&
+                skew.RecalculateDistance(one) == -16 && up.Intersects(right, P(V(0, 0, 1), -2), out) == 1 &&
                 out == V(0, 0, 2, 7));
 
     Random<T> random;

@@ -15,8 +15,8 @@ TYPED_TEST(FloatAndDouble, Quat3DEdgesOfConversionsAndFunctions) {
     Q q(1, 2, 3, 4);
     Q const unset, one(0, 0, 0, 1), nan(n, n, n, n), partly(n, 1, 2, 3);
     auto const axes = [](T ax, T by, T cz) { return Q(V(ax, 2, 3, 9), V(4, by, 6, 9), V(7, 8, cz, 9)); };
-    auto angles = [v = V()](Q const& of) mutable { return of.GetPitchYawRoll(v.x, v.y, v.z), V(v); };
-    auto axisAngle = [v = V()](Q const& of) mutable { return of.GetAxisAngle(v, v.w), V(v, v.w); };
+    auto angles = [v = V(9)](Q const& of) mutable { return of.GetPitchYawRoll(v.x, v.y, v.z), V(v); };
+    auto axisAngle = [v = V(9)](Q const& of) mutable { return of.GetAxisAngle(v, v.w), V(v, v.w); };
     ExpectNear(0, "storage, length", q.w, p[0], q.x, p[1], q.y, p[2], q.z, p[3], Q(p), q, Q() = q, q, Q(q), q,
                unset, Q(0, 0, 0, 0), Conj(q), Q(-1, -2, -3, 4), UnitInvert(q), Conj(q), Conj(one),
                Q(zero, zero, zero, 1), Q().Adjust(), unset, Q(0, 0, 2, 0).Adjust(), Q(0, 0, 1, 0),
