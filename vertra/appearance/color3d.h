@@ -81,7 +81,7 @@ public:
     constexpr Color3D(unsigned int packed);
     Color3D(std::floating_point auto) = delete;
     Color3D(std::nullptr_t) = delete;
-    Color3D(ArrayView auto const&) = delete;
+    explicit Color3D(ArrayView auto const&) = delete;
 
     /// All four channels.
     constexpr Color3D const& operator=(Color3D const& other);

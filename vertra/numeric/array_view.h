@@ -7,6 +7,8 @@
 /// A type with an array view converts to a pointer to its first scalar. These deleted operators keep
 /// arithmetic, comparison and negation from falling through to that pointer: what the type does not define
 /// does not compile. The operators that a type does define win, being more specialised.
+/// The constructors that types delete for an array view are explicit: one that is not would compete, deleted
+/// or not, where an overload takes the object by a conversion.
 namespace vertra {
 
 /// True for the types with an array view; said beside each of them.

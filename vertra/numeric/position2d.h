@@ -29,7 +29,7 @@ public:
     /// Both coordinates.
     constexpr Position2D(Position2D const& other);
     Position2D(std::nullptr_t) = delete;
-    Position2D(ArrayView auto const&) = delete;
+    explicit Position2D(ArrayView auto const&) = delete;
 
     /// Both coordinates.
     constexpr Position2D& operator=(Position2D const& other);

@@ -29,7 +29,7 @@ public:
     /// Both components.
     constexpr Vec2D(Vec2D const& v);
     Vec2D(std::nullptr_t) = delete;
-    Vec2D(ArrayView auto const&) = delete;
+    explicit Vec2D(ArrayView auto const&) = delete;
 
     /// Both components.
     constexpr Vec2D const& operator=(Vec2D const& v);

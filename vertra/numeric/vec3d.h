@@ -44,7 +44,7 @@ public:
     /// Drops v.w.
     constexpr Vec3D(Vec4D<T> const& v) : Vec3D(v.x, v.y, v.z) {}
     Vec3D(std::nullptr_t, T = T(0)) = delete;
-    Vec3D(ArrayView auto const&, T = T(0)) = delete;
+    explicit Vec3D(ArrayView auto const&, T = T(0)) = delete;
 
     /// All three components.
     constexpr Vec3D const& operator=(Vec3D const& v) { return Set(v.x, v.y, v.z); }

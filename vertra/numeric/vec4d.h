@@ -61,7 +61,7 @@ public:
     /// w is 0.
     constexpr Vec4D(Vec3D<T> const& v);  // defined with Vec3D
     Vec4D(std::nullptr_t, T = T(0)) = delete;
-    Vec4D(ArrayView auto const&, T = T(0)) = delete;
+    explicit Vec4D(ArrayView auto const&, T = T(0)) = delete;
 
     /// @{ Writes x, y and z; w stays.
     constexpr Vec4D const& operator=(Vec4D const& v) { return Set(v.x, v.y, v.z); }

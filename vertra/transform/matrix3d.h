@@ -53,7 +53,7 @@ public:
     /// The rotation of a quaternion, in the sense that `Quat3D` tells: the opposite way from its axes.
     constexpr Matrix3D(Quat3D<T> const& q);  // defined with Quat3D
     Matrix3D(std::nullptr_t) = delete;
-    Matrix3D(ArrayView auto const&) = delete;
+    explicit Matrix3D(ArrayView auto const&) = delete;
 
     /// All sixteen elements.
     constexpr Matrix3D const& operator=(Matrix3D const& other) { return *this = other.m; }

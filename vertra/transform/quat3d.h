@@ -58,13 +58,14 @@ public:
     /// By FromMatrix.
     constexpr Quat3D(Matrix3D<T> const& m) : Quat3D() { *this = m; }
     Quat3D(std::nullptr_t) = delete;
-    Quat3D(T) = delete;
-    Quat3D(ArrayView auto const&) = delete;
+    explicit Quat3D(T) = delete;
+    explicit Quat3D(ArrayView auto const&) = delete;
 
     /// All four scalars.
     constexpr Quat3D const& operator=(Quat3D const& other);
     /// By FromMatrix.
     constexpr Quat3D const& operator=(Matrix3D<T> const& m) { return SetAxes(m.Row(0), m.Row(1), m.Row(2)); }
+    Quat3D const& operator=(T) = delete;
 
     /// Scales to unit length; one that is zero or holds a NaN stays as it is.
     constexpr Quat3D const& Adjust();
