@@ -15,7 +15,6 @@
 #include <cstdio>
 #include <cstring>
 #include <limits>
-#include <map>
 #include <mutex>
 #include <string_view>
 #include <thread>
@@ -165,15 +164,15 @@ bool IsNearTie(long double value, long double error) {
 
 /// Each float function over all floats; atan2 with a second argument from a hash of the first. In a sample
 /// long double judges every input; in the full run it is asked where the double lies within 2^-40 of a tie,
-/// so that a platform whose double is worse than that shows in the sample alone. At most two numbers of a
-/// function may miss the correctly rounded float, sign aside, and only where the correctly rounded double
-/// lies in the middle between two floats, so that no platform's rounding of it can do better.
+/// so that a platform whose double is worse than that shows in the sample alone. At most two inputs of a
+/// function may miss the correctly rounded float, and only where the correctly rounded double lies in the
+/// middle between two floats, so that it misses as well.
 bool CheckTrigonometry(bool sample) {
     bool good = true;
     for (Function const& function : kFunctions) {
         std::mutex mutex;
         int avoidable = 0;
-        std::map<float, float> misses;  // by magnitude; the second argument
+        std::vector<std::array<float, 2>> misses;
         ForAllWords<char>(function.name, sample ? 64 : 1, [&](std::uint32_t word, char&) {
             if (sample) word += word * 0x9E3779B1U >> 26;  // one of the 64, not always the first
             auto const x = std::bit_cast<float>(word);
@@ -191,11 +190,11 @@ bool CheckTrigonometry(bool sample) {
             Exact const exact = Settled(function, x, second);
             if (IsSame(exact.value, got)) return;
             std::lock_guard const lock(mutex);
-            misses[std::abs(x)] = second;
+            misses.push_back({x, second});
             avoidable += !IsSame(exact.ofDouble, got);
         });
-        std::printf("trig: %s of 2^%d inputs: %zu numbers, sign aside, not correctly rounded, %d avoidably",
-                    function.name, sample ? 26 : 32, misses.size(), avoidable);
+        std::printf("trig: %s of 2^%d inputs: %zu not correctly rounded, %d of them avoidably", function.name,
+                    sample ? 26 : 32, misses.size(), avoidable);
         for (auto const& [x, second] : misses) std::printf(" %a %a", double(x), double(second));
         std::puts("");
         std::fflush(stdout);

@@ -1,6 +1,11 @@
 #include <vertra/vertra.h>
 
+#include <iostream>
+
 int main() {
-    using V = vertra::Vec4D<double>;
-    return V(1, 0, 0) * vertra::Matrix3D<double>().Trans(2, 3, 4) == V(3, 3, 4) ? 0 : 1;
+    vertra::Matrix3D<double> m;
+    m.Trans(2, 3, 4);
+    vertra::Vec4D<double> const moved = vertra::Vec4D<double>(1, 0, 0) * m;
+    std::cout << moved.x << ' ' << moved.y << ' ' << moved.z << '\n';
+    return moved == vertra::Vec4D<double>(3, 3, 4) ? 0 : 1;
 }

@@ -27,15 +27,20 @@ TYPED_TEST(FloatAndDouble, InteropOneTextForStreamsAndFormats) {
     using T = TypeParam;
     Vec4D<T> const v(1, T(-0.1), T(1e20), 4);
     auto const expect = [](auto const& x, std::string const& text) {
-        EXPECT_TRUE(Text(x) == text && fmt::format("{}", x) == text) << x;
+        EXPECT_EQ(Text(x), text);
+        EXPECT_EQ(fmt::format("{}", x), text);
     };
-    expect(v, "(1, -0.1, 1e+20, 4)"), expect(Vec3D<T>(-kInfinity<T>, kNaN<T>, T(-0.0)), "(-inf, nan, -0)");
+    expect(v, "(1, -0.1, 1e+20, 4)");
+    expect(Vec3D<T>(-std::numeric_limits<T>::infinity(), std::numeric_limits<T>::quiet_NaN(), T(-0.0)),
+           "(-inf, nan, -0)");
     expect(Matrix3D<T>(), "(1, 0, 0, 0)\n(0, 1, 0, 0)\n(0, 0, 1, 0)\n(0, 0, 0, 1)");
-    expect(Quat3D<T>(1, 2, 3, 4), "(w: 4, x: 1, y: 2, z: 3)"),
-        expect(Color3D<T>(1, T(0.5), 0, 1), "(1, 0.5, 0, 1)");
+    expect(Quat3D<T>(1, 2, 3, 4), "(w: 4, x: 1, y: 2, z: 3)");
     expect(BSphere3D<T>(Vec4D<T>(1), 2), "(center: (1, 1, 1, 0), radius: 2)");
     expect(Triangle3D<T>(), "((1, 0, 0, 0), (0, 1, 0, 0), (0, 0, 1, 0))");
+    expect(Quad3D<T>(1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1, 2, 3, 4, 5, 6),
+           "((1, 2, 3, 4), (5, 6, 7, 8), (9, 0, 1, 2), (3, 4, 5, 6))");
     expect(Rect2D<T>(1, 2, 3, 4), "(topLeft: (1, 2), bottomRight: (3, 4))");
+    expect(Color3D<T>(1, T(0.5), 0, 1), "(1, 0.5, 0, 1)");
     EXPECT_EQ(fmt::format("{}", Light3D<T>()).substr(0, 33), "(type: 3, diffuse: (1, 1, 1, 0), ");
     EXPECT_NE(Text(Material3D<T>()).find(", texture1: 0x0, "), std::string::npos);
     EXPECT_EQ(fmt::format("{:.1f} {:>{}}{:}", Vec2D<T>(1, 2), Vec2D<T>(3, 4), 3, Vec2D<T>()),

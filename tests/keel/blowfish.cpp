@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <random>
 #include <stdexcept>
+#include <string>
 #include <vector>
 
 namespace {
@@ -14,8 +15,54 @@ namespace {
 using Cipher = keel::CBlowFishEncrypterDecrypter;
 using Bytes = std::vector<unsigned char>;
 
+Bytes Hex(std::string const& digits) {
+    Bytes bytes;
+    for (std::size_t i = 0; i < digits.size(); i += 2)
+        bytes.push_back(static_cast<unsigned char>(std::stoi(digits.substr(i, 2), nullptr, 16)));
+    return bytes;
+}
 void Crypt(Cipher& cipher, bool decrypt, unsigned char const* in, unsigned char* out, std::size_t size) {
     decrypt ? cipher.Decrypt(in, out, size) : cipher.Encrypt(in, out, size);
+}
+/// Both ways from the initial chain, in place.
+void ExpectCrypts(Cipher& cipher, Bytes const& key, Bytes const& plain, Bytes const& secret) {
+    cipher.SetKey(key.data(), key.size());
+    for (bool const decrypt : {false, true}) {
+        Bytes bytes = decrypt ? secret : plain;
+        cipher.ResetChain();
+        Crypt(cipher, decrypt, bytes.data(), bytes.data(), bytes.size());
+        EXPECT_EQ(bytes, decrypt ? plain : secret) << "key of " << key.size();
+    }
+}
+
+TEST(BlowFish, PublishedVectors) {  // B. Schneier publishes them with the cipher
+    char const* const blocks[][3] = {{"0000000000000000", "0000000000000000", "4EF997456198DD78"},
+                                     {"FFFFFFFFFFFFFFFF", "FFFFFFFFFFFFFFFF", "51866FD5B85ECB8A"},
+                                     {"3000000000000000", "1000000000000001", "7D856F9A613063F2"},
+                                     {"0123456789ABCDEF", "1111111111111111", "61F9C3802281B096"},
+                                     {"FEDCBA9876543210", "0123456789ABCDEF", "0ACEAB0FC6A0A28D"}};
+    char const* const keySizes[] = {
+        "F9AD597C49DB005E", "E91D21C1D961A6D6", "E9C2B70A1BC65CF3", "BE1E639408640F05", "B39E44481BDB1E6E",
+        "9457AA83B1928C0D", "8BB77032F960629D", "E87A244E2CC85E82", "15750E7A4F4EC577", "122BA70B3AB64AE0",
+        "3A833C9AFFC537F6", "9409DA87A90F6BF2", "884F80625060B8B4", "1F85031C19E11968", "79D9373A714CA34F",
+        "93142887EE3BE15C", "03429E838CE2D14B", "A4299E27469FF67B", "AFD5AED1C1BC96A8", "10851C0E3858DA9F",
+        "E6F51ED79B9DB21F", "64A6E14AFD36B46F", "80C7D7D45A5479AD", "05044B62FA52D080"};
+    Cipher cipher;
+    for (auto const& [key, plain, secret] : blocks) ExpectCrypts(cipher, Hex(key), Hex(plain), Hex(secret));
+    Bytes const key = Hex("F0E1D2C3B4A5968778695A4B3C2D1E0F0011223344556677"),
+                block = Hex("FEDCBA9876543210");
+    for (auto end = key.begin(); char const* const secret : keySizes)
+        ExpectCrypts(cipher, Bytes(key.begin(), ++end), block, Hex(secret));
+
+    Bytes const chainKey = Hex("0123456789ABCDEFF0E1D2C3B4A59687");
+    std::string const text("7654321 Now is the time for \0\0\0\0", 32);
+    cipher.SetInitialChain(block.data());
+    cipher.SetEncryptionMode(Cipher::BLOWFISH_CBC);
+    ExpectCrypts(cipher, chainKey, Bytes(text.begin(), text.end()),
+                 Hex("6B77B4D63006DEE605B156E27403979358DEB9E7154616D959F1652BD5FF92CC"));
+    cipher.SetEncryptionMode(Cipher::BLOWFISH_CFB);
+    ExpectCrypts(cipher, chainKey, Bytes(text.begin(), text.end() - 3),
+                 Hex("E73214A2822139CAF26ECF6D2EB9E76E3DA3DE04D1517200519D57A6C3"));
 }
 
 TEST(BlowFish, RefusalsChangeNothing) {
@@ -37,8 +84,7 @@ TEST(BlowFish, RefusalsChangeNothing) {
         for (int const mode : {-1, 3, 0, 1, 2}) crypt(mode, 0);
         EXPECT_EQ(out, Bytes(9, 0xEE));
         crypt(2, 8);
-        EXPECT_EQ(out, (Bytes{0x4E, 0xF9, 0x97, 0x45, 0x61, 0x98, 0xDD, 0x78, 0xEE}))
-            << "key and chain as before: what is published for zeros";
+        EXPECT_EQ(out, Hex("4EF997456198DD78EE")) << "key and chain are as before";
     }
 }
 
@@ -82,10 +128,8 @@ TEST(BlowFish, AgreesWithOpenSslHoweverAMessageIsSplitAndInterrupted) {
                 cipher.SetKey(key, std::size_t(keySize));
                 cipher.SetEncryptionMode(Cipher::BLOWFISH_ENCRYPTION_MODE(mode));
                 part = std::min<std::size_t>(size - at, random() % 6 * 8);
-                auto* const out = &(decrypt ? plain : secret)[at];
-                auto const* in = (decrypt ? secret.data() : text) + at;
-                if (i % 2 == 0) in = std::copy_n(in, part, out) - part;  // in place
-                Crypt(cipher, decrypt, in, out, part);
+                Crypt(cipher, decrypt, (decrypt ? secret.data() : text) + at, &(decrypt ? plain : secret)[at],
+                      part);
             }
             cipher.ResetChain();
         }

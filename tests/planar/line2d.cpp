@@ -35,10 +35,13 @@ TYPED_TEST(FloatAndDouble, Line2DKeepsItsNormalAndCrossesAsWholeNumbersSay) {
         random.Fill(p, q, r, s);
         L const a(p, q), b(r, s);
         int const d = cross(q - p, s - r), onA = cross(r - p, s - r), onB = cross(r - p, q - p);
+        auto const within = [d](int n) { return d > 0 ? 0 <= n && n <= d : d <= n && n <= 0; };
+        int const crossing = within(onA) ? (within(onB) ? 2 : 4) : (within(onB) ? 3 : 1),
+                  expected = d != 0 ? crossing : (onA != 0 ? 5 : 0);
         out = V(9, 9);
         int const found = a.Intersection(b, &out), without = a.Intersection(b), cached = a.normalValid;
         T const length = std::hypot(q.x - p.x, q.y - p.y);
-        ExpectNear(kRootRounding, Inputs(p, q, r, s), found, without, cached, 0, out,
+        ExpectNear(kRootRounding, Inputs(p, q, r, s), found, expected, without, expected, cached, 0, out,
                    d != 0 ? p + (q - p) * (T(onA) / T(d)) : V(9, 9), a.SignedDistance(r),
                    length == 0 ? 0 : T(onB) / length);
     }

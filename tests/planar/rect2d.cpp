@@ -33,4 +33,17 @@ TYPED_TEST(FloatAndDouble, Rect2DMovesGrowsClipsAndCompares) {
                valid(0, 0), 0, valid(0, 5), 1, valid(5, 0), 1, valid(-1, 5), 0, valid(5, -1), 0,
                valid(kNaN<T>, 0), 1);
     static_assert((R(0, 0, 4, 4) & R(1, 1, 2, 2)).Width() == 2 && !requires { r.IsValid(); });
+
+    Random<T> random{1};
+    auto [a, b, at] = std::tuple<R, R, P>();
+    for (int i = 0; i < 5000; ++i) {
+        random.Fill(a, b, at);
+        a.Repair(), b.Repair(), a.Inflate(1, 1), b.Inflate(1, 1);
+        R const both = R(a).Clip(b);
+        int const in = std::clamp(at.x, a.topLeft.x, a.bottomRight.x) == at.x &&
+                       std::clamp(at.y, a.topLeft.y, a.bottomRight.y) == at.y;
+        int const meet = a.IsPointInside(both.topLeft) & b.IsPointInside(both.topLeft);
+        ExpectNear(0, Inputs(a, b, at), a.IsPointInside(at), in, meet & both.IsPointInside(at),
+                   in & b.IsPointInside(at), a.IsCollided(b), int(both.Width() > 0 && both.Height() > 0));
+    }
 }

@@ -41,7 +41,11 @@ TYPED_TEST(FloatAndDouble, Line3DCarriesWAndAgreesWithGlm) {
     for (int i = 0; i < 2000; ++i) {
         random.Fill(line, p);
         glm::dvec3 const from = Glm(line.start), to = Glm(line.end), at = Glm(p);
-        ExpectNear(4 * kRootRounding, Inputs(line, p), GetClosestPoint(line, p), Closest(from, to, at),
-                   Len(line), T(glm::distance(from, to)));
+        T const radius = random() + 5,
+                distance = T(glm::length(glm::cross(at - from, to - from)) / glm::length(to - from));
+        int const meets = IsIntersectingWithSphere(line, p, radius, 0);
+        ExpectNear(4 * kRootRounding, Inputs(line, p, radius), GetClosestPoint(line, p),
+                   Closest(from, to, at), Len(line), T(glm::distance(from, to)), meets,
+                   std::abs(distance - radius) < 1e-3 ? meets : int(distance < radius));
     }
 }

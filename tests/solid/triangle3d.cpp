@@ -43,7 +43,7 @@ TYPED_TEST(FloatAndDouble, Triangle3DEdgesAndProperties) {
     for (int i = 0; i < 18; ++i) EXPECT_EQ(triangles[i / 3][i % 3], V(corners[faces[i]], 7)) << i;
 
     Random<T> random;
-    AABBox3D<T> const reset;
+    AABBox3D<T> const cube(-1, -1, -1, 1, 1, 1), reset;
     for (int i = 0; i < 4000; ++i) {
         random.Fill(t, d, p, out);
         T const b = random() / 3, c = random() / 3, ahead = random(), w = out.w,
@@ -67,5 +67,17 @@ TYPED_TEST(FloatAndDouble, Triangle3DEdgesAndProperties) {
                    int(slope <= 0), t.Intersects(start, d, out), inside);
         ExpectNear(1e-3, inputs, out, V(hit, w), t.Intersects(Line3D<T>(start, hit + d * ahead), out),
                    int(inside && ahead > 0));
+    }
+    // A corner on a face, a side on an edge, the plane on a corner, and a side on an edge without area; and
+    // which way is out.
+    A const touches[] = {A(1, 0.5, 0.5, 2, 0, 1, 2, 1, 0), A(2, 0, 0.5, 0, 2, -0.5, 3, 3, 0),
+                         A(9, -3, -3, -3, 9, -3, -3, -3, 9), A(2, 0, 0.5, 0, 2, -0.5, 1, 1, 0)};
+    V const away[] = {x, x + y, V(1), x + y};
+    for (int i = 0; i < 4 * 3 * 24; ++i) {
+        auto const at = [&](int k, T far) {
+            return Image(touches[i % 4][(i / 4 + k) % 3] + away[i % 4] * far, i / 12);
+        };
+        auto const meets = [&](T far) { return A(at(0, far), at(1, far), at(2, far)).Intersects(cube); };
+        EXPECT_TRUE(meets(0) == 1 && meets(std::ldexp(T(1), -20)) == 0) << i;
     }
 }
